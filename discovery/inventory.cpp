@@ -1,0 +1,73 @@
+#include "discovery/inventory.hpp"
+
+#include <algorithm>
+
+namespace kelmar {
+
+namespace {
+
+std::optional<Installation> firstOf(Scope scope, const std::vector<Installation>& installations) {
+    const auto found =
+        std::find_if(installations.begin(), installations.end(),
+                     [scope](const Installation& one) { return one.scope == scope; });
+    return found == installations.end() ? std::nullopt : std::optional(*found);
+}
+
+} // namespace
+
+std::vector<std::string> Installation::paths() const {
+    std::vector<std::string> all;
+    for (const std::optional<std::string>& path : {app, services}) {
+        if (path) {
+            all.push_back(*path);
+        }
+    }
+    all.insert(all.end(), agents.begin(), agents.end());
+    return all;
+}
+
+bool DataFolder::isKnown(std::string_view name) {
+    return std::any_of(known.begin(), known.end(),
+                       [name](const Known& one) { return one.name == name; });
+}
+
+bool Inventory::isEmpty() const {
+    // A data root is only there for the folders in it.
+    return installations.empty() && loadedServices.empty() && settings.empty() &&
+           keychainItems.empty() && dataFolders().empty();
+}
+
+std::vector<DataFolder> Inventory::dataFolders() const {
+    std::vector<DataFolder> all;
+    for (const DataRoot& root : dataRoots) {
+        all.insert(all.end(), root.folders.begin(), root.folders.end());
+    }
+    return all;
+}
+
+std::optional<Installation> Inventory::allUsers() const {
+    return firstOf(Scope::allUsers, installations);
+}
+
+std::optional<Installation> Inventory::mine() const {
+    return firstOf(Scope::me, installations);
+}
+
+bool Inventory::needsAdministrator(const std::set<std::string>& deleting) const {
+    if (allUsers()) {
+        return true;
+    }
+    const std::optional<Installation> own = mine();
+    if (own && own->needsAdministrator) {
+        return true;
+    }
+    return std::any_of(dataRoots.begin(), dataRoots.end(), [&deleting](const DataRoot& root) {
+        return root.scope == Scope::allUsers &&
+               std::any_of(root.folders.begin(), root.folders.end(),
+                           [&deleting](const DataFolder& folder) {
+                               return deleting.count(folder.path) != 0;
+                           });
+    });
+}
+
+} // namespace kelmar

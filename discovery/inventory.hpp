@@ -1,0 +1,102 @@
+#pragma once
+
+#include "discovery/kelmar_paths.hpp"
+
+#include <array>
+#include <cstdint>
+#include <optional>
+#include <set>
+#include <string>
+#include <string_view>
+#include <vector>
+
+/// What a scan found: plain values that hold paths and names and never touch the file system.
+namespace kelmar {
+
+/// One installation of the product, for one scope.
+struct Installation {
+    Scope scope = Scope::me;
+    std::optional<std::string> app; ///< path of the app bundle, if it exists
+    std::optional<std::string>
+        appVersion; ///< its short version, if the bundle's version record has one
+    std::optional<std::string> services; ///< path of the services folder, if it exists
+    std::vector<std::string> agents;     ///< the launch agents' property lists that exist
+    std::vector<std::string> receipts; ///< identifiers of the package receipts known to the system
+    bool needsAdministrator = false;   ///< some file belongs to another user (for `me` alone)
+
+    /// The app, the services folder and the agents, those that there are. Receipts are no paths.
+    [[nodiscard]] std::vector<std::string> paths() const;
+
+    friend bool operator==(const Installation&, const Installation&) = default;
+};
+
+/// One of the product's own folders inside a data root. Its path is its identity.
+struct DataFolder {
+    std::string name;
+    std::string summary; ///< what it holds, in words for people
+    std::string path;
+    std::optional<std::int64_t> bytes; ///< absent until measured, and when measuring failed
+
+    /// A name that the product gives to a data folder, and what such a folder holds.
+    struct Known {
+        std::string_view name;
+        std::string_view summary;
+    };
+
+    /// The one table of the product's data folders, in the order in which they are listed. Names
+    /// count exactly as they are written here.
+    static constexpr std::array<Known, 8> known{{
+        {"Database", "Case databases"},
+        {"Store", "Imported documents"},
+        {"Export", "Exported files"},
+        {"CDN", "AI models and tools"},
+        {"CDN_remote", "Copy of the AI model source"},
+        {"Models", "AI models"},
+        {"Staging", "Files waiting to be imported"},
+        {"Logs", "Service logs"},
+    }};
+    static bool isKnown(std::string_view name);
+
+    friend bool operator==(const DataFolder&, const DataFolder&) = default;
+};
+
+/// The product's data folder for one scope. Its path is its identity.
+struct DataRoot {
+    Scope scope = Scope::me;
+    std::string path;
+    std::vector<DataFolder> folders; ///< in the order of `DataFolder::known`
+    std::vector<std::string>
+        otherItems; ///< names of everything else inside, sorted, without ignorable ones
+
+    friend bool operator==(const DataRoot&, const DataRoot&) = default;
+};
+
+/// The result of one scan.
+struct Inventory {
+    std::vector<Installation> installations; ///< at most one a scope, `allUsers` first
+    bool appRunning = false;
+    std::vector<std::string>
+        loadedServices; ///< labels loaded in this login session, API before Worker
+    std::vector<std::string>
+        settings; ///< settings, caches, logs and temporary files of this account
+    std::vector<std::string>
+        keychainItems;               ///< service names, the current edition's before the former's
+    std::vector<DataRoot> dataRoots; ///< at most one a scope, `me` first
+
+    /// Nothing of the product is here. A running app does not count: there is nothing to remove.
+    [[nodiscard]] bool isEmpty() const;
+
+    /// The folders of all data roots, in order.
+    [[nodiscard]] std::vector<DataFolder> dataFolders() const;
+
+    [[nodiscard]] std::optional<Installation> allUsers() const;
+    [[nodiscard]] std::optional<Installation> mine() const;
+
+    /// Whether an administrator is needed to remove the product and those data folders whose paths
+    /// are in `deleting`.
+    [[nodiscard]] bool needsAdministrator(const std::set<std::string>& deleting) const;
+
+    friend bool operator==(const Inventory&, const Inventory&) = default;
+};
+
+} // namespace kelmar

@@ -1,0 +1,76 @@
+#include "system/files.hpp"
+
+#include "system/descriptor.hpp"
+
+#include <algorithm>
+#include <cerrno>
+#include <memory>
+#include <string_view>
+
+#include <dirent.h>
+#include <fcntl.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+namespace kelmar {
+
+namespace {
+
+struct CloseFolder {
+    void operator()(DIR* folder) const { ::closedir(folder); }
+};
+
+} // namespace
+
+bool exists(const std::string& path) {
+    struct stat status {};
+
+    return ::lstat(path.c_str(), &status) == 0;
+}
+
+std::optional<std::vector<std::string>> sortedNames(const std::string& path) {
+    const std::unique_ptr<DIR, CloseFolder> folder(::opendir(path.c_str()));
+    if (!folder) {
+        return std::nullopt;
+    }
+    std::vector<std::string> names;
+    errno = 0; // readdir(3) tells its end and an error apart by errno alone
+    while (const dirent* entry = ::readdir(folder.get())) {
+        const std::string_view name = entry->d_name;
+        if (name != "." && name != "..") {
+            names.emplace_back(name);
+        }
+    }
+    if (errno != 0) {
+        return std::nullopt;
+    }
+    std::sort(names.begin(), names.end());
+    return names;
+}
+
+std::optional<std::string> readFile(const std::string& path, std::size_t limit) {
+    const Descriptor file(::open(path.c_str(), O_RDONLY | O_CLOEXEC | O_NONBLOCK | O_NOCTTY));
+
+    struct stat status {};
+
+    if (!file.isOpen() || ::fstat(file.get(), &status) != 0 || !S_ISREG(status.st_mode) ||
+        static_cast<std::size_t>(status.st_size) > limit) {
+        return std::nullopt;
+    }
+    std::string bytes(static_cast<std::size_t>(status.st_size), '\0');
+    std::size_t length = 0;
+    while (length < bytes.size()) {
+        const ssize_t count = ::read(file.get(), &bytes[length], bytes.size() - length);
+        if (count > 0) {
+            length += static_cast<std::size_t>(count);
+        } else if (count == 0) {
+            break; // it shrank while it was read
+        } else if (errno != EINTR) {
+            return std::nullopt;
+        }
+    }
+    bytes.resize(length);
+    return bytes;
+}
+
+} // namespace kelmar

@@ -1,0 +1,45 @@
+#include "system/files.hpp"
+#include "system/processes.hpp"
+
+#include <algorithm>
+#include <array>
+#include <charconv>
+#include <climits>
+#include <string_view>
+
+#include <unistd.h>
+
+namespace kelmar {
+
+std::vector<pid_t> processIdentifiers() {
+    std::vector<pid_t> identifiers;
+    for (const std::string& name : sortedNames("/proc").value_or(std::vector<std::string>{})) {
+        pid_t identifier = 0;
+        const char* const end = name.data() + name.size();
+        const auto [rest, error] = std::from_chars(name.data(), end, identifier);
+        if (error == std::errc{} && rest == end) {
+            identifiers.push_back(identifier);
+        }
+    }
+    std::sort(identifiers.begin(), identifiers.end());
+    return identifiers;
+}
+
+std::optional<std::string> executablePath(pid_t process) {
+    const std::string link = "/proc/" + std::to_string(process) + "/exe";
+    std::array<char, PATH_MAX> target; // NOLINT(*-member-init): filled by readlink
+    const ssize_t length = ::readlink(link.c_str(), target.data(), target.size());
+    if (length <= 0) {
+        return std::nullopt;
+    }
+    std::string path(target.data(), static_cast<std::size_t>(length));
+    // proc(5): the kernel marks a process whose file has been removed since it started.
+    constexpr std::string_view removed = " (deleted)";
+    if (path.size() > removed.size() &&
+        path.compare(path.size() - removed.size(), removed.size(), removed) == 0) {
+        path.resize(path.size() - removed.size());
+    }
+    return path;
+}
+
+} // namespace kelmar

@@ -1,0 +1,102 @@
+#include "system/binary_property_list.hpp"
+#include "system/old_style_property_list.hpp"
+#include "system/property_list.hpp"
+#include "system/utf16.hpp"
+#include "system/utf8.hpp"
+
+#include <plist/plist.h>
+
+#include <cstdint>
+#include <cstdlib>
+#include <memory>
+
+namespace kelmar {
+
+namespace {
+
+struct FreeNode {
+    void operator()(plist_t node) const { ::plist_free(node); }
+};
+
+using Node = std::unique_ptr<void, FreeNode>;
+
+struct FreeText {
+    void operator()(char* text) const { std::free(text); }
+};
+
+/// libplist frees a tree by recursion, so the nesting must stay far below what a stack holds. An
+/// upper bound of the nesting is enough: no real version record has as many containers in all.
+constexpr std::size_t xmlContainerLimit = 10'000;
+
+std::size_t occurrences(std::string_view text, std::string_view word) {
+    std::size_t count = 0;
+    for (std::size_t at = text.find(word); at != std::string_view::npos;
+         at = text.find(word, at + word.size())) {
+        ++count;
+    }
+    return count;
+}
+
+bool isModestXml(std::string_view text) {
+    return occurrences(text, "<array") + occurrences(text, "<dict") <= xmlContainerLimit;
+}
+
+std::optional<std::string> stringInDictionary(const Node& root, std::string_view key) {
+    if (!root || ::plist_get_node_type(root.get()) != PLIST_DICT) {
+        return std::nullopt;
+    }
+    const plist_t value = ::plist_dict_get_item(root.get(), std::string(key).c_str());
+    if (value == nullptr || ::plist_get_node_type(value) != PLIST_STRING) {
+        return std::nullopt;
+    }
+    char* raw = nullptr;
+    ::plist_get_string_val(value, &raw);
+    const std::unique_ptr<char, FreeText> text(raw);
+    return text ? std::optional<std::string>(text.get()) : std::nullopt;
+}
+
+std::optional<std::string> stringInBinary(std::string_view bytes, std::string_view key) {
+    if (!isModestBinaryPropertyList(bytes)) {
+        return std::nullopt;
+    }
+    plist_t root = nullptr;
+    ::plist_from_bin(bytes.data(), static_cast<std::uint32_t>(bytes.size()), &root);
+    return stringInDictionary(Node(root), key);
+}
+
+std::optional<std::string> stringInXml(std::string_view text, std::string_view key) {
+    if (!isModestXml(text)) {
+        return std::nullopt;
+    }
+    plist_t root = nullptr;
+    ::plist_from_xml(text.data(), static_cast<std::uint32_t>(text.size()), &root);
+    return stringInDictionary(Node(root), key);
+}
+
+std::optional<std::string> stringInText(std::string_view text, std::string_view key) {
+    constexpr std::string_view byteOrderMark = "\xEF\xBB\xBF";
+    if (text.substr(0, byteOrderMark.size()) == byteOrderMark) {
+        text.remove_prefix(byteOrderMark.size());
+    }
+    if (!isUtf8(text)) {
+        return std::nullopt;
+    }
+    const std::size_t first = text.find_first_not_of(" \t\r\n");
+    const bool isXml = first != std::string_view::npos && text[first] == '<';
+    return isXml ? stringInXml(text.substr(first), key) : stringInOldStylePropertyList(text, key);
+}
+
+} // namespace
+
+std::optional<std::string> stringInPropertyList(std::string_view bytes, std::string_view key) {
+    if (bytes.size() > UINT32_MAX) {
+        return std::nullopt;
+    }
+    if (bytes.substr(0, 6) == "bplist") {
+        return stringInBinary(bytes, key);
+    }
+    const std::optional<std::string> transcoded = utf8FromMarkedUtf16(bytes);
+    return stringInText(transcoded ? *transcoded : bytes, key);
+}
+
+} // namespace kelmar

@@ -1,0 +1,81 @@
+#include "tests/support/mac_tree.hpp"
+#include "tests/support/program.hpp"
+#include "tests/support/temporary_folder.hpp"
+
+#include <gtest/gtest.h>
+
+#include <chrono>
+#include <fstream>
+#include <sstream>
+#include <string>
+#include <vector>
+
+#include <fcntl.h>
+#include <signal.h>
+#include <unistd.h>
+
+namespace kelmar {
+namespace {
+
+class Output : public testing::Test {
+protected:
+    void SetUp() override { tree.everything(); }
+
+    [[nodiscard]] test::Program scan() const { return test::uninstaller({"--scan"}, folder / "t"); }
+
+    test::TemporaryFolder folder;
+    test::MacTree tree{folder / "t"};
+};
+
+TEST_F(Output, IntoAFileIsTheSame) {
+    const std::string expected = scan().run().output;
+    test::Program program = scan();
+    const std::string path = folder / "listing";
+    program.inChild = [path] {
+        ::dup2(::open(path.c_str(), O_WRONLY | O_CREAT, 0600), STDOUT_FILENO);
+    };
+    EXPECT_EQ(program.run().status, 0);
+    std::ostringstream written;
+    written << std::ifstream(path).rdbuf();
+    EXPECT_EQ(written.str(), expected);
+}
+
+TEST_F(Output, AReaderThatGoesAwayStopsNothing) {
+    test::Program program = scan();
+    program.inChild = [] {
+        int ends[2];
+        if (::pipe(ends) == 0) {
+            ::dup2(ends[1], STDOUT_FILENO);
+            ::close(ends[0]);
+            ::close(ends[1]);
+        }
+    };
+    EXPECT_EQ(program.run().status, 0) << "the signal of a broken pipe is ignored";
+}
+
+TEST_F(Output, AFullDiskStopsNothing) {
+    test::Program program = scan();
+    program.inChild = [] { ::dup2(::open("/dev/full", O_WRONLY), STDOUT_FILENO); };
+    const test::ProgramEnd end = program.run();
+    EXPECT_EQ(end.status, 0);
+    EXPECT_EQ(end.error, "");
+}
+
+TEST_F(Output, IntoAPipeThatDoesNotBlockIsWhole) {
+    test::Program program = scan();
+    program.inChild = [] {
+        ::fcntl(STDOUT_FILENO, F_SETPIPE_SZ, 4096);
+        ::fcntl(STDOUT_FILENO, F_SETFL, ::fcntl(STDOUT_FILENO, F_GETFL) | O_NONBLOCK);
+    };
+    EXPECT_EQ(program.run().output, scan().run().output);
+}
+
+TEST_F(Output, ExitStatusesOfChildrenSurviveAParentThatIgnoresThem) {
+    // Started by something that ignores SIGCHLD, wait(2) would know nothing of du's end.
+    test::Program program = scan();
+    program.inChild = [] { ::signal(SIGCHLD, SIG_IGN); };
+    EXPECT_EQ(program.run().output, scan().run().output);
+}
+
+} // namespace
+} // namespace kelmar

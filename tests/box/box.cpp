@@ -1,0 +1,167 @@
+#include "tests/box/box.hpp"
+
+#include <cerrno>
+#include <cstring>
+#include <filesystem>
+#include <fstream>
+#include <system_error>
+#include <utility>
+
+#include <sched.h>
+#include <sys/mount.h>
+#include <sys/stat.h>
+#include <sys/wait.h>
+#include <unistd.h>
+
+namespace kelmar::test {
+
+namespace {
+
+namespace fs = std::filesystem;
+
+void mustMount(const char* source, const std::string& target, const char* type, unsigned long flags,
+               const std::string& data = "") {
+    fs::create_directories(target);
+    if (::mount(source, target.c_str(), type, flags, data.empty() ? nullptr : data.c_str()) != 0) {
+        throw std::system_error(errno, std::generic_category(), "mount " + target);
+    }
+}
+
+void write(const std::string& path, const std::string& text, fs::perms permissions) {
+    fs::create_directories(fs::path(path).parent_path());
+    std::ofstream(path, std::ios::app) << text;
+    fs::permissions(path, permissions);
+}
+
+void makeNamespace() {
+    if (::unshare(CLONE_NEWNS) != 0 ||
+        ::mount("none", "/", nullptr, MS_REC | MS_PRIVATE, nullptr) != 0) {
+        throw std::system_error(errno, std::generic_category(), "no mount namespace of its own");
+    }
+}
+
+/// Volumes and service names are file names in /box once their slashes are gone.
+std::string flat(std::string name) {
+    for (char& character : name) {
+        character = character == '/' ? ':' : character;
+    }
+    return name;
+}
+
+} // namespace
+
+std::optional<std::string> Box::obstacle() {
+    if (::getuid() != 0) {
+        return "a pretend Mac needs mounts of its own, and so root";
+    }
+    // Tried for real, in a child so that a half-made namespace goes with it.
+    const pid_t child = ::fork();
+    if (child == 0) {
+        bool made = false;
+        try {
+            const Box box; // gone again before the child ends, with all that it made
+            made = true;
+        } catch (const std::exception&) {
+            made = false;
+        }
+        ::_exit(made ? 0 : 1);
+    }
+    int status = -1;
+    ::waitpid(child, &status, 0);
+    return status == 0 ? std::nullopt
+                       : std::optional<std::string>("this machine lets nobody mount an overlay");
+}
+
+Box::Box() : root_(folder_ / "root") {
+    makeNamespace();
+    const std::string layer = folder_ / "layer";
+    mustMount("tmpfs", layer, "tmpfs", 0, "mode=755");
+    fs::create_directories(layer + "/upper");
+    fs::create_directories(layer + "/work");
+    mustMount("overlay", root_, "overlay", 0,
+              "lowerdir=/,upperdir=" + layer + "/upper,workdir=" + layer + "/work");
+    mustMount("/proc", outside("/proc"), nullptr, MS_BIND | MS_REC);
+    mustMount("/dev", outside("/dev"), nullptr, MS_BIND | MS_REC);
+
+    for (const char* const tool : {"/bin/launchctl", "/usr/sbin/pkgutil", "/usr/bin/security"}) {
+        const std::string place = outside(tool);
+        fs::remove(place);
+        fs::copy_file(std::string(KELMAR_STAND_INS) + "/" + fs::path(tool).filename().native(),
+                      place);
+        fs::permissions(place, fs::perms(0755));
+    }
+    write(outside("/box/asked"), "", fs::perms(0666));
+    write(outside("/etc/passwd"), "ann:x:501:501:Ann:/Users/ann/:/bin/sh\n", fs::perms(0644));
+    fs::create_directories(outside("/box/bin"));
+    fs::copy_file(test::uninstaller({}, {}).path, outside("/box/bin/kelmar-uninstaller"));
+    for (const char* const own : {"/Users/ann", "/Users/ann/Library", "/box/tmp"}) {
+        fs::create_directories(outside(own));
+        chownToUser(own);
+    }
+    fs::create_directories(outside("/Users/Shared"));
+    fs::permissions(outside("/Users/Shared"), fs::perms(01777));
+    fs::create_directories(outside("/Applications"));
+    fs::create_directories(outside("/Library/LaunchAgents"));
+}
+
+Box::~Box() {
+    ::umount2(outside("/dev").c_str(), MNT_DETACH);
+    ::umount2(outside("/proc").c_str(), MNT_DETACH);
+    ::umount2(root_.c_str(), MNT_DETACH);
+    ::umount2((folder_ / "layer").c_str(), MNT_DETACH);
+}
+
+MacTree Box::tree() const {
+    return MacTree(KelmarPaths{root_, outside("/Users/ann"), outside("/box/tmp"), std::nullopt});
+}
+
+void Box::chownToUser(const std::string& path) const {
+    const std::string place = outside(path);
+    if (::lchown(place.c_str(), user, user) != 0) {
+        throw std::system_error(errno, std::generic_category(), place);
+    }
+    if (fs::is_directory(fs::symlink_status(place))) {
+        for (const fs::directory_entry& entry : fs::directory_iterator(place)) {
+            chownToUser(entry.path().native().substr(root_.size()));
+        }
+    }
+}
+
+void Box::addReceipt(const std::string& identifier, const std::string& volume) const {
+    write(outside("/box/receipts/" + flat(volume) + "/" + identifier), "", fs::perms(0666));
+}
+
+void Box::addService(const std::string& label, const std::string& plist) const {
+    write(outside("/box/services/gui:" + std::to_string(user) + ":" + label), plist,
+          fs::perms(0666));
+}
+
+void Box::addKeychainItem(const std::string& service) const {
+    write(outside("/box/keychain/" + flat(service)), "item\n", fs::perms(0666));
+}
+
+void Box::replace(const std::string& path, const std::string& script) const {
+    fs::remove(outside(path));
+    write(outside(path), "#!/bin/sh\n" + script, fs::perms(0755));
+}
+
+Program Box::uninstaller(const std::vector<std::string>& arguments) const {
+    Program program = test::uninstaller(arguments, std::nullopt);
+    program.path = "/box/bin/kelmar-uninstaller";
+    program.root = root_;
+    program.user = user;
+    program.environment["TMPDIR"] = "/box/tmp";
+    program.environment["HOME"] = "/nowhere";
+    return program;
+}
+
+std::vector<std::string> Box::asked() const {
+    std::vector<std::string> lines;
+    std::ifstream file(outside("/box/asked"));
+    for (std::string line; std::getline(file, line);) {
+        lines.push_back(line);
+    }
+    return lines;
+}
+
+} // namespace kelmar::test

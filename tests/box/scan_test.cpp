@@ -1,0 +1,183 @@
+#include "tests/box/box.hpp"
+
+#include <gtest/gtest.h>
+
+#include <chrono>
+#include <csignal>
+#include <filesystem>
+#include <memory>
+#include <string>
+#include <vector>
+
+#include <spawn.h>
+#include <sys/wait.h>
+#include <unistd.h>
+
+namespace kelmar {
+namespace {
+
+using Lines = std::vector<std::string>;
+using test::Box;
+using test::ProgramEnd;
+
+class ScanOfAPretendMac : public testing::Test {
+protected:
+    void SetUp() override {
+        if (const auto obstacle = Box::obstacle()) {
+            GTEST_SKIP() << *obstacle;
+        }
+        box = std::make_unique<Box>();
+    }
+
+    [[nodiscard]] std::string listing() const {
+        const ProgramEnd end = box->uninstaller({"--scan"}).run();
+        EXPECT_EQ(end.status, 0);
+        EXPECT_EQ(end.error, "");
+        return end.output;
+    }
+
+    std::unique_ptr<Box> box;
+};
+
+TEST_F(ScanOfAPretendMac, AsksTheSystemsToolsExactlyTheseQuestions) {
+    EXPECT_EQ(listing(), "Kelmar isn't on this Mac.\n");
+    EXPECT_EQ(
+        box->asked(),
+        (Lines{"/usr/sbin/pkgutil <--pkg-info> <com.kelmar.pkg.app>",
+               "/usr/sbin/pkgutil <--pkg-info> <com.kelmar.pkg.backend>",
+               "/usr/sbin/pkgutil <--pkg-info> <com.kelmar.pkg.app> <--volume> </Users/ann>",
+               "/usr/sbin/pkgutil <--pkg-info> <com.kelmar.pkg.backend> <--volume> </Users/ann>",
+               "/bin/launchctl <print> <gui/501/com.kelmar.api>",
+               "/bin/launchctl <print> <gui/501/com.kelmar.worker>",
+               "/usr/bin/security <find-generic-password> <-s> <Kelmar Safe Storage>",
+               "/usr/bin/security <find-generic-password> <-s> <Quobrintal Safe Storage>"}));
+}
+
+TEST_F(ScanOfAPretendMac, ListsWhatTheSystemKnows) {
+    box->tree().app(Scope::allUsers, "4.2.1").agents(Scope::me).settings();
+    box->tree().temporaryFiles();
+    box->chownToUser("/Users/ann");
+    box->addReceipt("com.kelmar.pkg.app", "/");
+    box->addReceipt("com.kelmar.pkg.backend", "/");
+    box->addReceipt("com.kelmar.pkg.backend", "/Users/ann");
+    box->addService("com.kelmar.worker", "/Users/ann/Library/LaunchAgents/com.kelmar.worker.plist");
+    box->addKeychainItem("Kelmar Safe Storage");
+    box->addKeychainItem("Quobrintal Safe Storage");
+    EXPECT_EQ(listing(), "Installed for all users: Kelmar 4.2.1\n"
+                         "    /Applications/Kelmar.app\n"
+                         "    install records: com.kelmar.pkg.app, com.kelmar.pkg.backend\n"
+                         "Installed for this user: Kelmar (app missing)\n"
+                         "    ~/Library/LaunchAgents/com.kelmar.api.plist\n"
+                         "    ~/Library/LaunchAgents/com.kelmar.worker.plist\n"
+                         "    install records: com.kelmar.pkg.backend\n"
+                         "Services loaded in this login session: com.kelmar.worker\n"
+                         "Settings:\n"
+                         "    ~/Library/Application Support/Kelmar\n"
+                         "    ~/Library/Application Support/Quobrintal\n"
+                         "    ~/Library/Logs/Kelmar\n"
+                         "    ~/Library/Preferences/com.quobrintal.app.plist\n"
+                         "    ~/Library/Preferences/ByHost/com.quobrintal.app.0A1B2C3D.plist\n"
+                         "    ~/Library/Saved Application State/com.quobrintal.app.savedState\n"
+                         "    ~/Library/Caches/com.quobrintal.app\n"
+                         "    ~/Library/HTTPStorages/com.quobrintal.app\n"
+                         "    ~/Library/WebKit/com.quobrintal.app\n"
+                         "    /box/tmp/Kelmar\n"
+                         "    /box/tmp/Kelmar_temp\n"
+                         "    /box/tmp/sd-soffice-diagram\n"
+                         "Keychain items: Kelmar Safe Storage, Quobrintal Safe Storage\n");
+}
+
+TEST_F(ScanOfAPretendMac, AReceiptAloneIsAnInstallation) {
+    box->addReceipt("com.kelmar.pkg.app", "/Users/ann");
+    EXPECT_EQ(listing(), "Installed for this user: Kelmar (app missing)\n"
+                         "    install records: com.kelmar.pkg.app\n");
+}
+
+TEST_F(ScanOfAPretendMac, BothServicesAreListedTheApiFirst) {
+    box->addService("com.kelmar.worker", "/x");
+    box->addService("com.kelmar.api", "/y");
+    EXPECT_EQ(listing(),
+              "Services loaded in this login session: com.kelmar.api, com.kelmar.worker\n");
+}
+
+TEST_F(ScanOfAPretendMac, FilesThatBelongToTheSystemAreSaidToNeedAnAdministrator) {
+    box->tree().services(Scope::me);
+    EXPECT_EQ(listing(),
+              "Installed for this user: Kelmar (app missing)\n"
+              "    ~/Library/Kelmar\n"
+              "    (some files belong to another user: removing them needs an administrator)\n");
+    box->chownToUser("/Users/ann/Library/Kelmar");
+    EXPECT_EQ(listing(), "Installed for this user: Kelmar (app missing)\n"
+                         "    ~/Library/Kelmar\n");
+}
+
+TEST_F(ScanOfAPretendMac, ARunningAppIsNotedBesideWhatThereIsToRemove) {
+    test::MacTree tree = box->tree();
+    const std::string executable = tree.paths().app(Scope::me) + "/Contents/MacOS/Kelmar";
+    tree.folder(std::filesystem::path(executable).parent_path());
+    std::filesystem::copy_file("/bin/sleep", executable);
+    box->chownToUser("/Users/ann/Applications");
+
+    const pid_t runner = ::fork();
+    if (runner == 0) {
+        if (::chroot(box->outside("").c_str()) != 0 || ::setgid(Box::user) != 0 ||
+            ::setuid(Box::user) != 0) {
+            ::_exit(1);
+        }
+        ::execl("/Users/ann/Applications/Kelmar.app/Contents/MacOS/Kelmar", "Kelmar", "600",
+                nullptr);
+        ::_exit(1);
+    }
+    std::string seen;
+    for (int attempt = 0; attempt < 50 && seen.find("running") == std::string::npos; ++attempt) {
+        seen = listing(); // until the child has become the app
+    }
+    ::kill(runner, SIGKILL);
+    ::waitpid(runner, nullptr, 0);
+    EXPECT_EQ(seen, "Installed for this user: Kelmar (app missing)\n"
+                    "    ~/Applications/Kelmar.app\n"
+                    "Kelmar is running.\n");
+    EXPECT_EQ(listing(), "Installed for this user: Kelmar (app missing)\n"
+                         "    ~/Applications/Kelmar.app\n");
+}
+
+TEST_F(ScanOfAPretendMac, ASlowFolderDoesNotHoldBackTheLinesBeforeIt) {
+    box->tree().dataFolder(Scope::me, "Database").dataFolder(Scope::me, "Store");
+    box->replace("/usr/bin/du",
+                 "case $2 in */Store) sleep 2 ;; esac\nprintf '12\\t%s\\n' \"$2\"\n");
+    test::Program program = box->uninstaller({"--scan"});
+    std::string early;
+    program.onOutput = [&early](const std::string& piece, std::chrono::milliseconds at) {
+        early += at < std::chrono::milliseconds(1500) ? piece : "";
+    };
+    EXPECT_EQ(program.run().output, "Data in ~/Kelmar:\n"
+                                    "    Database     12 KB\n"
+                                    "    Store        12 KB\n");
+    EXPECT_EQ(early, "Data in ~/Kelmar:\n"
+                     "    Database     12 KB\n");
+}
+
+TEST_F(ScanOfAPretendMac, ToolsThatFailReadAsNotThere) {
+    box->addReceipt("com.kelmar.pkg.app", "/");
+    box->addService("com.kelmar.api", "/x");
+    box->addKeychainItem("Kelmar Safe Storage");
+    box->replace("/usr/sbin/pkgutil", "exit 70\n");
+    box->replace("/bin/launchctl", "kill -SEGV $$\n");
+    std::filesystem::remove(box->outside("/usr/bin/security"));
+    EXPECT_EQ(listing(), "Kelmar isn't on this Mac.\n");
+}
+
+TEST_F(ScanOfAPretendMac, ASizeThatNoDiskHasEndsTheProgramWithOneLine) {
+    box->tree().dataFolder(Scope::me, "Store");
+    box->replace("/usr/bin/du", "printf '9007199254740992\\t/x\\n'\n"); // 2 to the 53rd
+    const ProgramEnd end = box->uninstaller({"--scan"}).run();
+    EXPECT_EQ(end.error,
+              "Kelmar Uninstaller: broken contract: du reported a size that no disk has\n");
+    EXPECT_EQ(end.status, -SIGABRT);
+    box->replace("/usr/bin/du", "printf '9007199254740991\\t/x\\n'\n");
+    EXPECT_EQ(listing(), "Data in ~/Kelmar:\n"
+                         "    Store        9.22 EB\n");
+}
+
+} // namespace
+} // namespace kelmar

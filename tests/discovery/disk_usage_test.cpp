@@ -1,0 +1,64 @@
+#include "discovery/disk_usage.hpp"
+#include "discovery/scanner.hpp"
+#include "tests/support/mac_tree.hpp"
+#include "tests/support/temporary_folder.hpp"
+
+#include <gtest/gtest.h>
+
+#include <cstdint>
+#include <filesystem>
+#include <limits>
+#include <optional>
+#include <string>
+
+namespace kelmar {
+namespace {
+
+TEST(Kibibytes, AreTheFirstFieldOfTheOutput) {
+    EXPECT_EQ(kibibytes("12\t/home/ann/Kelmar/Store\n"), 12);
+    EXPECT_EQ(kibibytes("  \n\t7 x"), 7);
+    EXPECT_EQ(kibibytes("0\t/x"), 0);
+    EXPECT_EQ(kibibytes("8"), 8);
+    EXPECT_EQ(kibibytes("+8\t/x"), 8);
+    EXPECT_EQ(kibibytes("-8\t/x"), -8);
+    EXPECT_EQ(kibibytes("007\t/x"), 7);
+    EXPECT_EQ(kibibytes("9223372036854775807 x"), std::numeric_limits<std::int64_t>::max());
+}
+
+TEST(Kibibytes, AreAbsentWithoutAWholeNumberThere) {
+    for (const char* const output :
+         {"", " ", "\n\t\v\f\r ", "du: cannot access '/x': No such file or directory\n", "12K\t/x",
+          "1.5\t/x", "0x10\t/x", "+", "-", "+-8", "-+8", "--8", "1,000\t/x",
+          "9223372036854775808\t/x", "\xFF"}) {
+        EXPECT_EQ(kibibytes(output), std::nullopt) << output;
+    }
+}
+
+TEST(Size, OfAPathThatDoesNotExistIsAbsent) {
+    EXPECT_EQ(Scanner::size("/no/such/folder"), std::nullopt);
+}
+
+TEST(Size, IsWhatTheFolderTakesOnDisk) {
+    const test::TemporaryFolder folder;
+    const std::optional<std::int64_t> empty = Scanner::size(folder.path());
+    ASSERT_TRUE(empty);
+    EXPECT_GE(*empty, 0);
+    EXPECT_EQ(*empty % 1024, 0);
+    test::MacTree(folder / "t").file(folder / "t/home/file", std::string(1'000'000, 'x'));
+    const std::optional<std::int64_t> full = Scanner::size(folder.path());
+    ASSERT_TRUE(full);
+    EXPECT_GE(*full - *empty, 1'000'000);
+    EXPECT_LT(*full - *empty, 1'200'000);
+}
+
+TEST(Size, OfANameWithBlanksQuotesAndNewlinesIsMeasuredAsAnyOther) {
+    const test::TemporaryFolder folder;
+    const std::string odd = folder / "a b\n9\t\"'\xFF";
+    std::filesystem::create_directory(odd);
+    std::filesystem::create_directory(folder / "plain");
+    ASSERT_TRUE(Scanner::size(odd));
+    EXPECT_EQ(Scanner::size(odd), Scanner::size(folder / "plain"));
+}
+
+} // namespace
+} // namespace kelmar

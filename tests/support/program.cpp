@@ -1,0 +1,127 @@
+#include "tests/support/program.hpp"
+
+#include "system/descriptor.hpp"
+
+#include <array>
+#include <cerrno>
+#include <csignal>
+#include <cstdlib>
+#include <stdexcept>
+#include <system_error>
+#include <utility>
+
+#include <fcntl.h>
+#include <grp.h>
+#include <poll.h>
+#include <sys/wait.h>
+#include <unistd.h>
+
+namespace kelmar::test {
+
+namespace {
+
+using Clock = std::chrono::steady_clock;
+
+struct Pipe {
+    Descriptor readEnd;
+    Descriptor writeEnd;
+};
+
+Pipe makePipe() {
+    std::array<int, 2> ends{};
+    if (::pipe2(ends.data(), O_CLOEXEC) != 0) {
+        throw std::system_error(errno, std::generic_category(), "pipe2");
+    }
+    return {Descriptor(ends[0]), Descriptor(ends[1])};
+}
+
+[[noreturn]] void become(const Program& program, int output, int error) {
+    ::dup2(::open("/dev/null", O_RDONLY | O_CLOEXEC), STDIN_FILENO);
+    ::dup2(output, STDOUT_FILENO);
+    ::dup2(error, STDERR_FILENO);
+    for (const auto& [name, value] : program.environment) {
+        value ? ::setenv(name.c_str(), value->c_str(), 1) : ::unsetenv(name.c_str());
+    }
+    if (program.root && (::chroot(program.root->c_str()) != 0 || ::chdir("/") != 0)) {
+        ::_exit(125);
+    }
+    if (program.user && (::setgroups(0, nullptr) != 0 || ::setgid(*program.user) != 0 ||
+                         ::setuid(*program.user) != 0)) {
+        ::_exit(126);
+    }
+    if (program.inChild) {
+        program.inChild();
+    }
+    std::vector<char*> arguments{const_cast<char*>(program.path.c_str())};
+    for (const std::string& argument : program.arguments) {
+        arguments.push_back(const_cast<char*>(argument.c_str()));
+    }
+    arguments.push_back(nullptr);
+    ::execv(program.path.c_str(), arguments.data());
+    ::_exit(127);
+}
+
+/// Takes what there is; closes the end when the writer has gone.
+std::string take(Descriptor& end) {
+    std::array<char, 65536> buffer{};
+    const ssize_t count = ::read(end.get(), buffer.data(), buffer.size());
+    if (count <= 0) {
+        end = Descriptor();
+        return {};
+    }
+    return {buffer.data(), static_cast<std::size_t>(count)};
+}
+
+} // namespace
+
+ProgramEnd Program::run() const {
+    Pipe output = makePipe();
+    Pipe error = makePipe();
+    const Clock::time_point start = Clock::now();
+    const pid_t child = ::fork();
+    if (child == 0) {
+        become(*this, output.writeEnd.get(), error.writeEnd.get());
+    }
+    output.writeEnd = Descriptor();
+    error.writeEnd = Descriptor();
+    ProgramEnd end;
+    while (output.readEnd.isOpen() || error.readEnd.isOpen()) {
+        const auto waited =
+            std::chrono::duration_cast<std::chrono::milliseconds>(Clock::now() - start);
+        if (waited > patience && !end.timedOut) {
+            end.timedOut = true;
+            ::kill(child, SIGKILL);
+        } else if (waited > patience + std::chrono::seconds(2)) {
+            break; // something that the child started holds the pipes open
+        }
+        std::array<pollfd, 2> ends{
+            {{output.readEnd.get(), POLLIN, 0}, {error.readEnd.get(), POLLIN, 0}}};
+        ::poll(ends.data(), ends.size(), 100);
+        if (ends[0].revents != 0) {
+            const std::string piece = take(output.readEnd);
+            end.output += piece;
+            if (onOutput && !piece.empty()) {
+                onOutput(piece, std::chrono::duration_cast<std::chrono::milliseconds>(Clock::now() -
+                                                                                      start));
+            }
+        }
+        if (ends[1].revents != 0) {
+            end.error += take(error.readEnd);
+        }
+    }
+    int status = 0;
+    ::waitpid(child, &status, 0);
+    end.status = WIFSIGNALED(status) ? -WTERMSIG(status) : WEXITSTATUS(status);
+    return end;
+}
+
+Program uninstaller(std::vector<std::string> arguments,
+                    const std::optional<std::string>& testRoot) {
+    Program program;
+    program.path = KELMAR_EXECUTABLE;
+    program.arguments = std::move(arguments);
+    program.environment["KELMAR_UNINSTALLER_TEST_ROOT"] = testRoot;
+    return program;
+}
+
+} // namespace kelmar::test
