@@ -26,7 +26,7 @@ An install for all users still asks for an administrator's password, in a window
 )";
 
 bool isOption(const std::string& argument) {
-    return argument.compare(0, 2, "--") == 0;
+    return argument.starts_with("--");
 }
 
 std::int32_t printUsage(std::int32_t status) {

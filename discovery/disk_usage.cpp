@@ -14,7 +14,7 @@ std::optional<std::int64_t> kibibytes(std::string_view output) {
     constexpr std::string_view blank = " \t\n\v\f\r";
     output.remove_prefix(std::min(output.find_first_not_of(blank), output.size()));
     std::string_view field = output.substr(0, output.find_first_of(blank));
-    if (field.substr(0, 1) == "+" && field.substr(1, 1) != "-") {
+    if (field.starts_with('+') && !field.starts_with("+-")) {
         field.remove_prefix(1); // std::from_chars takes a minus sign only
     }
     std::int64_t value = 0;

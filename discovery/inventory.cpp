@@ -65,7 +65,7 @@ bool Inventory::needsAdministrator(const std::set<std::string>& deleting) const 
         return root.scope == Scope::allUsers &&
                std::any_of(root.folders.begin(), root.folders.end(),
                            [&deleting](const DataFolder& folder) {
-                               return deleting.count(folder.path) != 0;
+                               return deleting.contains(folder.path);
                            });
     });
 }

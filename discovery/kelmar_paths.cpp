@@ -18,10 +18,6 @@ KelmarPaths under(const std::string& testRoot) {
     return {base + "/system", base + "/home", base + "/tmp", testRoot};
 }
 
-bool startsWith(std::string_view text, std::string_view prefix) {
-    return text.substr(0, prefix.size()) == prefix;
-}
-
 } // namespace
 
 bool KelmarPaths::isIgnorable(std::string_view name) {
@@ -41,10 +37,10 @@ std::string KelmarPaths::display(const std::string& path) const {
     if (path == home) {
         return "~";
     }
-    if (startsWith(path, home + "/")) {
+    if (path.starts_with(home + "/")) {
         return "~" + path.substr(home.size());
     }
-    if (testRoot && startsWith(path, systemRoot + "/")) {
+    if (testRoot && path.starts_with(systemRoot + "/")) {
         return path.substr(systemRoot.size());
     }
     return path;

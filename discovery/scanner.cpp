@@ -80,8 +80,9 @@ bool appRunning(const KelmarPaths& paths) {
 std::vector<std::string> named(const std::string& folder) {
     std::vector<std::string> found;
     for (const std::string& name : sortedNames(folder).value_or(std::vector<std::string>{})) {
-        if (name.compare(0, legacyBundleIdentifier.size(), legacyBundleIdentifier) == 0) {
-            found.push_back(folder + "/" + name);
+        if (name.starts_with(legacyBundleIdentifier)) {
+            found.push_back(folder);
+            found.back().append("/").append(name);
         }
     }
     return found;

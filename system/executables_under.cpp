@@ -35,9 +35,8 @@ std::vector<std::string> prefixes(const std::vector<std::string>& folders) {
 std::vector<pid_t> processesUnder(const std::vector<std::string>& folders) {
     const std::vector<std::string> inside = prefixes(folders);
     const auto isInside = [&inside](const std::string& path) {
-        return std::any_of(inside.begin(), inside.end(), [&path](const std::string& prefix) {
-            return path.compare(0, prefix.size(), prefix) == 0;
-        });
+        return std::any_of(inside.begin(), inside.end(),
+                           [&path](const std::string& prefix) { return path.starts_with(prefix); });
     };
     std::vector<pid_t> found;
     for (const pid_t process : processIdentifiers()) {

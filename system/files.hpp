@@ -12,10 +12,10 @@ namespace kelmar {
 /// can't be searched does not.
 bool exists(const std::string& path);
 
-/// The names directly inside `folder`, hidden ones included, without "." and "..", sorted by bytes
-/// (for UTF-8 that is code-point order). Absent when the folder cannot be listed to its end:
-/// missing, not a folder, unreadable. A link to a folder is listed as that folder.
-std::optional<std::vector<std::string>> sortedNames(const std::string& folder);
+/// The names directly inside the folder at `path`, hidden ones included, without "." and "..",
+/// sorted by bytes (for UTF-8 that is code-point order). Absent when the folder cannot be listed to
+/// its end: missing, not a folder, unreadable. A link to a folder is listed as that folder.
+std::optional<std::vector<std::string>> sortedNames(const std::string& path);
 
 /// The bytes of the regular file at `path` (links followed), absent when there is none, when it
 /// cannot be read, or when it holds more than `limit` bytes. Never waits: a pipe or a device in the

@@ -12,6 +12,8 @@ namespace kelmar {
 
 namespace {
 
+constexpr std::size_t bufferSize = 32768;
+
 /// Owner and kind are all that is asked for: file systems that keep other facts elsewhere need not
 /// look.
 bool look(int folder, const char* name, struct statx& status) {
@@ -22,8 +24,8 @@ bool look(int folder, const char* name, struct statx& status) {
 } // namespace
 
 FolderReading readFolder(int descriptor, const std::function<bool(const FolderEntry&)>& visit) {
-    alignas(dirent64) std::array<std::byte, 32 * 1024>
-        buffer; // NOLINT(*-member-init): filled below
+    // NOLINTNEXTLINE(*-member-init): filled by the system before it is read
+    alignas(dirent64) std::array<std::byte, bufferSize> buffer;
     while (true) {
         const ssize_t length = ::getdents64(descriptor, buffer.data(), buffer.size());
         if (length < 0 && errno == EINTR) {

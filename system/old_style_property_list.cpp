@@ -52,9 +52,9 @@ private:
         while (!rest_.empty()) {
             if (std::string_view(" \t\r\n\f\v").find(rest_.front()) != std::string_view::npos) {
                 rest_.remove_prefix(1);
-            } else if (rest_.substr(0, 2) == "//") {
+            } else if (rest_.starts_with("//")) {
                 rest_.remove_prefix(std::min(rest_.find('\n'), rest_.size()));
-            } else if (rest_.substr(0, 2) == "/*") {
+            } else if (rest_.starts_with("/*")) {
                 const std::size_t end = rest_.find("*/", 2);
                 unterminatedComment_ = end == std::string_view::npos;
                 rest_.remove_prefix(unterminatedComment_ ? rest_.size() : end + 2);

@@ -27,7 +27,8 @@ std::vector<pid_t> processIdentifiers() {
 
 std::optional<std::string> executablePath(pid_t process) {
     const std::string link = "/proc/" + std::to_string(process) + "/exe";
-    std::array<char, PATH_MAX> target; // NOLINT(*-member-init): filled by readlink
+    // NOLINTNEXTLINE(*-member-init): filled by the system before it is read
+    std::array<char, PATH_MAX> target;
     const ssize_t length = ::readlink(link.c_str(), target.data(), target.size());
     if (length <= 0) {
         return std::nullopt;
@@ -35,8 +36,7 @@ std::optional<std::string> executablePath(pid_t process) {
     std::string path(target.data(), static_cast<std::size_t>(length));
     // proc(5): the kernel marks a process whose file has been removed since it started.
     constexpr std::string_view removed = " (deleted)";
-    if (path.size() > removed.size() &&
-        path.compare(path.size() - removed.size(), removed.size(), removed) == 0) {
+    if (path.ends_with(removed)) {
         path.resize(path.size() - removed.size());
     }
     return path;

@@ -8,7 +8,7 @@ namespace kelmar {
 
 namespace {
 
-constexpr std::size_t sizeLimit = 1024 * 1024;
+constexpr std::size_t sizeLimit = 1'048'576;
 
 } // namespace
 

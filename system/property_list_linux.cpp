@@ -45,7 +45,7 @@ std::optional<std::string> stringInDictionary(const Node& root, std::string_view
     if (!root || ::plist_get_node_type(root.get()) != PLIST_DICT) {
         return std::nullopt;
     }
-    const plist_t value = ::plist_dict_get_item(root.get(), std::string(key).c_str());
+    plist_t value = ::plist_dict_get_item(root.get(), std::string(key).c_str());
     if (value == nullptr || ::plist_get_node_type(value) != PLIST_STRING) {
         return std::nullopt;
     }
@@ -75,7 +75,7 @@ std::optional<std::string> stringInXml(std::string_view text, std::string_view k
 
 std::optional<std::string> stringInText(std::string_view text, std::string_view key) {
     constexpr std::string_view byteOrderMark = "\xEF\xBB\xBF";
-    if (text.substr(0, byteOrderMark.size()) == byteOrderMark) {
+    if (text.starts_with(byteOrderMark)) {
         text.remove_prefix(byteOrderMark.size());
     }
     if (!isUtf8(text)) {
@@ -92,7 +92,7 @@ std::optional<std::string> stringInPropertyList(std::string_view bytes, std::str
     if (bytes.size() > UINT32_MAX) {
         return std::nullopt;
     }
-    if (bytes.substr(0, 6) == "bplist") {
+    if (bytes.starts_with("bplist")) {
         return stringInBinary(bytes, key);
     }
     const std::optional<std::string> transcoded = utf8FromMarkedUtf16(bytes);

@@ -15,11 +15,12 @@ namespace kelmar::Shell {
 namespace {
 
 constexpr int signalBase = 128;
+constexpr std::size_t bufferSize = 16384;
 
 std::string readToEnd(int descriptor) {
     std::string bytes;
-    std::array<char, 16 * 1024>
-        buffer; // NOLINT(*-member-init): filled by read before it is looked at
+    // NOLINTNEXTLINE(*-member-init): filled by the system before it is read
+    std::array<char, bufferSize> buffer;
     while (true) {
         const ssize_t count = ::read(descriptor, buffer.data(), buffer.size());
         if (count > 0) {

@@ -23,7 +23,7 @@ protected:
     /// second.
     [[nodiscard]] ProgramEnd scan(const std::string& root) const {
         const auto before = test::snapshot(folder.path());
-        const ProgramEnd end = test::uninstaller({"--scan"}, root).run();
+        ProgramEnd end = test::uninstaller({"--scan"}, root).run();
         EXPECT_EQ(test::snapshot(folder.path()), before) << "a scan changed something";
         EXPECT_EQ(end.status, 0);
         EXPECT_EQ(end.error, "");

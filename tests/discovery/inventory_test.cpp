@@ -67,6 +67,7 @@ TEST(DataFolder, TheKnownOnesStandInTheirOrder) {
         {"Staging", "Files waiting to be imported"},
         {"Logs", "Service logs"}};
     std::vector<std::pair<std::string, std::string>> known;
+    known.reserve(DataFolder::known.size());
     for (const DataFolder::Known& one : DataFolder::known) {
         known.emplace_back(one.name, one.summary);
     }

@@ -38,7 +38,7 @@ std::string binary(const std::vector<std::string>& objects) {
 }
 
 std::string reference(std::size_t index) {
-    return std::string(1, static_cast<char>(index));
+    return {static_cast<char>(index)};
 }
 
 /// A dictionary that is sound in itself: the key, its text, and one member more under the key "x".

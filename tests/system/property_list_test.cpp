@@ -30,13 +30,13 @@ std::string dictionary(const std::string& value) {
 }
 
 std::string binary(const std::string& value) {
-    const plist_t root = ::plist_new_dict();
+    plist_t root = ::plist_new_dict();
     ::plist_dict_set_item(root, "CFBundleName", ::plist_new_string("Kelmar"));
     ::plist_dict_set_item(root, key, ::plist_new_string(value.c_str()));
     char* bytes = nullptr;
     std::uint32_t length = 0;
     ::plist_to_bin(root, &bytes, &length);
-    const std::string result(bytes, length);
+    std::string result(bytes, length);
     std::free(bytes);
     ::plist_free(root);
     return result;
@@ -130,7 +130,7 @@ TEST(PropertyList, IsReadFromAFileThroughLinks) {
 TEST(PropertyList, WhatIsNoSensibleFileHoldsNothing) {
     const test::TemporaryFolder folder;
     ASSERT_EQ(::mkfifo((folder / "pipe").c_str(), 0600), 0);
-    std::ofstream(folder / "enormous") << test::versionRecord("4") << std::string(1024 * 1024, ' ');
+    std::ofstream(folder / "enormous") << test::versionRecord("4") << std::string(1'048'576, ' ');
     for (const std::string& path : {folder / "missing", folder.path(), folder / "pipe",
                                     folder / "enormous", std::string("/dev/zero")}) {
         EXPECT_EQ(propertyListString(path, key), std::nullopt) << path;

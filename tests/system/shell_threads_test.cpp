@@ -42,6 +42,7 @@ TEST(ShellOnSeveralThreads, AShortChildDoesNotWaitForALongOneOfAnotherThread) {
 TEST(ShellOnSeveralThreads, EachCallGetsItsOwnChildsOutputAndStatus) {
     std::atomic<int> wrong{0};
     std::vector<std::thread> threads;
+    threads.reserve(8);
     for (int number = 0; number < 8; ++number) {
         threads.emplace_back([number, &wrong] {
             const std::string text(static_cast<std::size_t>(2000 + number),
