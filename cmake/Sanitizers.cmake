@@ -6,3 +6,8 @@ if(KELMAR_SANITIZERS)
                       -fno-omit-frame-pointer)
   add_link_options(-fsanitize=${KELMAR_SANITIZERS})
 endif()
+
+if(KELMAR_FUZZERS)
+  # What the fuzzer is to explore must tell it which branches were taken.
+  add_compile_options(-fsanitize=fuzzer-no-link)
+endif()

@@ -7,7 +7,6 @@
 #include <plist/plist.h>
 
 #include <cstdint>
-#include <cstdlib>
 #include <memory>
 
 namespace kelmar {
@@ -19,10 +18,6 @@ struct FreeNode {
 };
 
 using Node = std::unique_ptr<void, FreeNode>;
-
-struct FreeText {
-    void operator()(char* text) const { std::free(text); }
-};
 
 /// libplist frees a tree by recursion, so the nesting must stay far below what a stack holds. An
 /// upper bound of the nesting is enough: no real version record has as many containers in all.
@@ -38,7 +33,8 @@ std::size_t occurrences(std::string_view text, std::string_view word) {
 }
 
 bool isModestXml(std::string_view text) {
-    return occurrences(text, "<array") + occurrences(text, "<dict") <= xmlContainerLimit;
+    return text.find('\0') == std::string_view::npos &&
+           occurrences(text, "<array") + occurrences(text, "<dict") <= xmlContainerLimit;
 }
 
 std::optional<std::string> stringInDictionary(const Node& root, std::string_view key) {
@@ -49,10 +45,12 @@ std::optional<std::string> stringInDictionary(const Node& root, std::string_view
     if (value == nullptr || ::plist_get_node_type(value) != PLIST_STRING) {
         return std::nullopt;
     }
-    char* raw = nullptr;
-    ::plist_get_string_val(value, &raw);
-    const std::unique_ptr<char, FreeText> text(raw);
-    return text ? std::optional<std::string>(text.get()) : std::nullopt;
+    // Not plist_get_string_val: it ends the program over a text with a null character in it.
+    std::uint64_t length = 0;
+    const char* const text = ::plist_get_string_ptr(value, &length);
+    const std::string_view found(text == nullptr ? "" : text, text == nullptr ? 0 : length);
+    const bool sound = text != nullptr && found.find('\0') == std::string_view::npos;
+    return sound ? std::optional(std::string(found)) : std::nullopt;
 }
 
 std::optional<std::string> stringInBinary(std::string_view bytes, std::string_view key) {

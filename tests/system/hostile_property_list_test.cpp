@@ -152,6 +152,27 @@ TEST(HostileXmlPropertyList, EntitiesOfItsOwnHoldNothing) {
         "</plist>");
 }
 
+TEST(HostileXmlPropertyList, ATextWithANullCharacterInItHoldsNothing) {
+    const std::string null(1, '\0');
+    expectNothingQuickly("<plist><dict><key>CFBundleShortVersionString</key><string>4" + null +
+                         "2</string></dict></plist>");
+    expectNothingQuickly("<plist><dict>" + null +
+                         "<key>CFBundleShortVersionString</key><string>4</string>" +
+                         "</dict></plist>");
+}
+
+TEST(HostileBinaryPropertyList, ATextEndsAtANullCharacterInItOrHoldsNothing) {
+    const std::string null(1, '\0');
+    std::vector<std::string> objects = withMember({"\x51y"});
+    for (const std::string& text : {"\x53"
+                                    "4" +
+                                        null + "2",
+                                    "\x62" + null + "4" + null + null}) {
+        objects[3] = text;
+        EXPECT_EQ(stringInPropertyList(binary(objects), key).value_or("4"), "4");
+    }
+}
+
 TEST(HostileXmlPropertyList, ManyKeysAndLongTextsTakeNoTime) {
     std::string many = "<plist><dict>";
     for (int index = 0; many.size() < 1'000'000; ++index) {

@@ -1,0 +1,145 @@
+// Measures the program beside the system's own tools, the two in random alternation within one run,
+// and prints the ratios of their medians. Takes the folder to build its trees in as its one
+// argument.
+
+#include "bench/child.hpp"
+#include "bench/pair_reporter.hpp"
+#include "discovery/scanner.hpp"
+#include "system/shell.hpp"
+#include "tests/support/mac_tree.hpp"
+
+#include <benchmark/benchmark.h>
+
+#include <cstdio>
+#include <cstdlib>
+#include <functional>
+#include <map>
+#include <string>
+#include <vector>
+
+#include <unistd.h>
+
+namespace kelmar::bench {
+namespace {
+
+constexpr int repetitions = 15;
+
+/// Ten data folders of 2,000 files in 100 folders each.
+std::vector<std::string> tenDataFolders(const std::string& root) {
+    test::MacTree tree(root);
+    std::vector<std::string> folders;
+    for (const auto& [scope, count] : {std::pair{Scope::me, 8}, std::pair{Scope::allUsers, 2}}) {
+        for (int index = 0; index < count; ++index) {
+            const DataFolder::Known& known = DataFolder::known.at(static_cast<std::size_t>(index));
+            folders.push_back(tree.paths().dataRoot(scope) + "/" + std::string(known.name));
+            for (int file = 0; file < 2000; ++file) {
+                tree.file(folders.back() + "/" + std::to_string(file % 100) + "/" +
+                              std::to_string(file),
+                          "some bytes");
+            }
+        }
+    }
+    return folders;
+}
+
+/// 100,000 files in 5,000 folders, a hundred at the top and 49 in each of those.
+std::string manyFiles(const std::string& root) {
+    test::MacTree tree(root);
+    const std::string top = root + "/many";
+    for (int outer = 0; outer < 100; ++outer) {
+        const std::string folder = top + "/" + std::to_string(outer);
+        tree.folder(folder);
+        for (int inner = 0; inner < 50; ++inner) {
+            const std::string path =
+                inner == 0 ? folder : folder + "/folder" + std::to_string(inner);
+            tree.folder(path);
+            for (int file = 0; file < 20; ++file) {
+                tree.file(path + "/file" + std::to_string(file));
+            }
+        }
+    }
+    return top;
+}
+
+void add(const std::string& name, int iterations, const std::function<void()>& step) {
+    benchmark::RegisterBenchmark(name.c_str(),
+                                 [step](benchmark::State& state) {
+                                     for (auto _ : state) {
+                                         step();
+                                     }
+                                 })
+        ->Iterations(iterations)
+        ->Repetitions(repetitions)
+        ->UseRealTime();
+}
+
+void require(bool holds, const char* what) {
+    if (!holds) {
+        std::fprintf(stderr, "not measured: %s\n", what);
+        std::exit(EXIT_FAILURE);
+    }
+}
+
+void measureStartUp() {
+    add("1-start-up/ours", 50, [] { runChild({KELMAR_EXECUTABLE, "--help"}, true); });
+    add("1-start-up/beside", 50, [] { runChild({"/bin/true"}, true); });
+}
+
+void measureScan(const std::string& root) {
+    const std::vector<std::string> folders = tenDataFolders(root);
+    ::setenv("KELMAR_UNINSTALLER_TEST_ROOT", root.c_str(), 1);
+    add("2-scan/ours", 5, [] { runChild({KELMAR_EXECUTABLE, "--scan"}, true); });
+    add("2-scan/beside", 5, [folders] {
+        for (const std::string& folder : folders) {
+            runChild({"/usr/bin/du", "-sk", folder}, true);
+        }
+    });
+}
+
+void measureOwnership(const std::string& root) {
+    const std::string top = manyFiles(root);
+    const std::string user = std::to_string(::getuid());
+    require(Scanner::ownedByMe(top), "the whole tree is ours");
+    add("3-ownership/ours", 1, [top] { benchmark::DoNotOptimize(Scanner::ownedByMe(top)); });
+    add("3-ownership/beside", 1, [top, user] {
+        runChild({"/usr/bin/find", top, "!", "-user", user, "-print", "-quit"}, true);
+    });
+}
+
+void measureShell() {
+    require(Shell::run("/bin/true", {}).status == 0, "/bin/true runs");
+    add("4-shell/ours", 100, [] { Shell::run("/bin/true", {}); });
+    add("4-shell/beside", 100, [] { runChild({"/bin/true"}, false); });
+}
+
+} // namespace
+} // namespace kelmar::bench
+
+int main(int count, char** arguments) {
+    using namespace kelmar::bench;
+    if (count != 2) {
+        std::fprintf(stderr, "usage: ratios FOLDER\n");
+        return EXIT_FAILURE;
+    }
+    std::string program = arguments[0];
+    std::string interleave = "--benchmark_enable_random_interleaving=true";
+    std::vector<char*> options{program.data(), interleave.data()};
+    int optionCount = static_cast<int>(options.size());
+    benchmark::Initialize(&optionCount, options.data());
+
+    const std::string folder = arguments[1];
+    measureStartUp();
+    measureScan(folder + "/scan");
+    measureOwnership(folder);
+    measureShell();
+    PairReporter reporter(
+        {{"1-start-up", {"start-up (`--help`)", "`/bin/true`", 2.0}},
+         {"2-scan", {"`--scan` of ten data folders", "ten `du -sk`", 1.1}},
+         {"3-ownership",
+          {"`ownedByMe`, 100,000 files in 5,000 folders", "`find DIR ! -user ID -print -quit`",
+           0.6}},
+         {"4-shell", {"`Shell::run` of `/bin/true`", "bare `posix_spawn` and wait", 1.2}}});
+    benchmark::RunSpecifiedBenchmarks(&reporter);
+    reporter.printTable();
+    return EXIT_SUCCESS;
+}

@@ -1,0 +1,77 @@
+# Shared by the scripts of this folder and by .ci/run; sourced, not run.
+# shellcheck shell=bash
+
+set -euo pipefail
+
+# Where the project is, whatever folder the caller stands in.
+project=$(cd "$(dirname "${BASH_SOURCE[0]}")/.." && pwd -P)
+
+say() {
+    printf '\n== %s\n' "$*"
+}
+
+fail() {
+    printf '%s: %s\n' "${0##*/}" "$*" >&2
+    exit 1
+}
+
+as_root() {
+    if [ "$(id -u)" -eq 0 ]; then
+        "$@"
+    elif command -v sudo >/dev/null; then
+        sudo "$@"
+    else
+        fail "this needs root or sudo: $*"
+    fi
+}
+
+# Installs those of the Debian packages named that are missing, and says which.
+install_packages() {
+    local package missing=()
+    command -v dpkg-query >/dev/null ||
+        fail "only Debian and Ubuntu are known here; install the like of: $*"
+    for package in "$@"; do
+        if [ "$(dpkg-query -W -f '${Status}' "$package" 2>/dev/null)" != "install ok installed" ]; then
+            missing+=("$package")
+        fi
+    done
+    if [ ${#missing[@]} -eq 0 ]; then
+        return
+    fi
+    say "Installing: ${missing[*]}"
+    as_root env DEBIAN_FRONTEND=noninteractive apt-get update -q
+    as_root env DEBIAN_FRONTEND=noninteractive apt-get install -q -y --no-install-recommends \
+        "${missing[@]}"
+}
+
+build_packages=(g++ cmake ninja-build libplist-dev)
+test_packages=(libgtest-dev)
+clang_packages=(clang clang-tidy clang-format libclang-rt-dev)
+bench_packages=(libbenchmark-dev findutils coreutils time)
+
+# Runs a command quietly; what it printed is shown when it fails.
+quietly() {
+    local log
+    log=$(mktemp "$project/build/log.XXXXXX")
+    if ! "$@" >"$log" 2>&1; then
+        cat "$log" >&2
+        rm -f "$log"
+        fail "failed: $*"
+    fi
+    rm -f "$log"
+}
+
+# Configures a preset and builds the given targets, or all.
+build() {
+    local preset=$1
+    shift
+    local targets=()
+    if [ $# -gt 0 ]; then
+        targets=(--target "$@")
+    fi
+    cd "$project"
+    quietly cmake --preset "$preset"
+    quietly cmake --build --preset "$preset" ${targets[@]+"${targets[@]}"}
+}
+
+mkdir -p "$project/build"
