@@ -44,10 +44,14 @@ install_packages() {
         "${missing[@]}"
 }
 
-build_packages=(g++ cmake ninja-build libplist-dev)
-test_packages=(libgtest-dev)
-clang_packages=(clang clang-tidy clang-format libclang-rt-dev)
-bench_packages=(libbenchmark-dev findutils coreutils time)
+# What each kind of work needs; the scripts that source this file take their pick.
+# shellcheck disable=SC2034 # used there
+{
+    build_packages=(g++ cmake ninja-build libplist-dev)
+    test_packages=(libgtest-dev)
+    clang_packages=(clang clang-tidy clang-format libclang-rt-dev)
+    bench_packages=(libbenchmark-dev findutils coreutils time)
+}
 
 # Runs a command quietly; what it printed is shown when it fails.
 quietly() {
