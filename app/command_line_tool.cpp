@@ -1,6 +1,7 @@
 #include "app/command_line_tool.hpp"
 
 #include "app/scan_listing.hpp"
+#include "app/uninstall_command.hpp"
 #include "discovery/kelmar_paths.hpp"
 #include "system/standard_streams.hpp"
 
@@ -39,11 +40,11 @@ bool contains(const std::vector<std::string>& options, std::string_view option) 
 }
 
 std::int32_t uninstall(const std::vector<std::string>& options) {
-    if (contains(options, "--delete-data") == contains(options, "--keep-data")) {
+    const bool deleteData = contains(options, "--delete-data");
+    if (deleteData == contains(options, "--keep-data")) {
         return printUsage(usageError);
     }
-    printErrorLine("Kelmar Uninstaller can only list so far: nothing was removed.");
-    return usageError;
+    return kelmar::uninstall(KelmarPaths::current(), deleteData);
 }
 
 } // namespace

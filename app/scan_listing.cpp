@@ -4,6 +4,7 @@
 #include "discovery/scanner.hpp"
 #include "system/byte_count.hpp"
 #include "system/standard_streams.hpp"
+#include "system/text.hpp"
 
 #include <cstdint>
 #include <optional>
@@ -15,15 +16,6 @@ namespace kelmar {
 namespace {
 
 const std::string indent = "    ";
-
-std::string joined(const std::vector<std::string>& words) {
-    std::string text;
-    for (const std::string& word : words) {
-        text += text.empty() ? "" : ", ";
-        text += word;
-    }
-    return text;
-}
 
 std::string sizeText(std::optional<std::int64_t> bytes) {
     if (!bytes) {
@@ -51,7 +43,7 @@ void print(const Installation& installation, const KelmarPaths& paths) {
               installation.appVersion.value_or("(app missing)"));
     printPaths(installation.paths(), paths);
     if (!installation.receipts.empty()) {
-        printLine(indent + "install records: " + joined(installation.receipts));
+        printLine(indent + "install records: " + joined(installation.receipts, ", "));
     }
     if (installation.needsAdministrator) {
         printLine(indent +
@@ -65,7 +57,7 @@ void print(const DataRoot& root, const KelmarPaths& paths) {
         printLine(indent + column(folder.name) + " " + sizeText(Scanner::size(folder.path)));
     }
     if (!root.otherItems.empty()) {
-        printLine(indent + "also holds (always kept): " + joined(root.otherItems));
+        printLine(indent + "also holds (always kept): " + joined(root.otherItems, ", "));
     }
 }
 
@@ -84,14 +76,14 @@ void printScan(const KelmarPaths& paths) {
         printLine("Kelmar is running.");
     }
     if (!inventory.loadedServices.empty()) {
-        printLine("Services loaded in this login session: " + joined(inventory.loadedServices));
+        printLine("Services loaded in this login session: " + joined(inventory.loadedServices, ", "));
     }
     if (!inventory.settings.empty()) {
         printLine("Settings:");
         printPaths(inventory.settings, paths);
     }
     if (!inventory.keychainItems.empty()) {
-        printLine("Keychain items: " + joined(inventory.keychainItems));
+        printLine("Keychain items: " + joined(inventory.keychainItems, ", "));
     }
     for (const DataRoot& root : inventory.dataRoots) {
         print(root, paths);

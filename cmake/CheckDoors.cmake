@@ -4,8 +4,10 @@ cmake_minimum_required(VERSION 3.25)
 
 set(doors_system "")
 set(doors_discovery "system")
-set(doors_app "discovery;system")
-set(rooms system discovery app)
+set(doors_engine "admin;discovery;system")
+set(doors_admin "engine;discovery;system")
+set(doors_app "engine;discovery;system")
+set(rooms system discovery engine admin app)
 
 set(findings "")
 foreach(room IN LISTS rooms)

@@ -73,4 +73,8 @@ std::optional<std::string> readFile(const std::string& path, std::size_t limit) 
     return bytes;
 }
 
+bool removeFile(const std::string& path) {
+    return ::unlink(path.c_str()) == 0;
+}
+
 } // namespace kelmar

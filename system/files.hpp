@@ -22,4 +22,7 @@ std::optional<std::vector<std::string>> sortedNames(const std::string& path);
 /// file's place is no regular file.
 std::optional<std::string> readFile(const std::string& path, std::size_t limit);
 
+/// Deletes the file or link at `path`, not a folder. Whether it is gone now by this call.
+bool removeFile(const std::string& path);
+
 } // namespace kelmar

@@ -16,4 +16,7 @@ std::vector<pid_t> processIdentifiers();
 /// somebody whose processes are not shown to us, or runs none (a kernel thread).
 std::optional<std::string> executablePath(pid_t process);
 
+/// The user that `process` acts as. Absent when it has gone or the system does not say.
+std::optional<uid_t> processOwner(pid_t process);
+
 } // namespace kelmar

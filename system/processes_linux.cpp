@@ -4,6 +4,8 @@
 #include <algorithm>
 #include <array>
 #include <charconv>
+#include <fstream>
+#include <sstream>
 #include <climits>
 #include <string_view>
 
@@ -40,6 +42,20 @@ std::optional<std::string> executablePath(pid_t process) {
         path.resize(path.size() - removed.size());
     }
     return path;
+}
+
+std::optional<uid_t> processOwner(pid_t process) {
+    // proc(5): "Uid:" and then the real, the effective, the saved and the file system's user.
+    std::ifstream status("/proc/" + std::to_string(process) + "/status");
+    for (std::string line; std::getline(status, line);) {
+        if (line.starts_with("Uid:")) {
+            std::istringstream fields(line.substr(4));
+            uid_t real = 0;
+            uid_t effective = 0;
+            return fields >> real >> effective ? std::optional(effective) : std::nullopt;
+        }
+    }
+    return std::nullopt;
 }
 
 } // namespace kelmar

@@ -1,10 +1,32 @@
-#include "system/executables_under.hpp"
 #include "system/running_applications.hpp"
+
+#include "system/executables_under.hpp"
+#include "system/processes.hpp"
+
+#include <csignal>
+
+#include <unistd.h>
 
 namespace kelmar {
 
-std::vector<pid_t> runningApplications(const ApplicationIdentity& identity) {
-    return processesUnder(identity.bundles);
+bool RunningApplication::terminate() const {
+    // The user's own way to end a program, which it can catch to put its things in order; SIGTERM, the
+    // system's, is the next step and not this one.
+    return ::kill(process, SIGINT) == 0;
+}
+
+bool RunningApplication::forceTerminate() const {
+    return ::kill(process, SIGKILL) == 0;
+}
+
+std::vector<RunningApplication> runningApplications(const ApplicationIdentity& identity) {
+    std::vector<RunningApplication> running;
+    for (const pid_t process : processesUnder(identity.bundles)) {
+        if (processOwner(process) == ::getuid()) {
+            running.push_back({process, nullptr});
+        }
+    }
+    return running;
 }
 
 } // namespace kelmar

@@ -1,0 +1,28 @@
+#pragma once
+
+#include <optional>
+#include <string>
+#include <string_view>
+
+namespace kelmar {
+
+/// A line of the administrator's script about its progress, taken apart. A line is a keyword, one blank, and
+/// the rest verbatim; blanks before the keyword are skipped.
+struct StatusLine {
+    enum class Keyword {
+        doing, ///< about to remove `subject`
+        ok,    ///< removed `subject`
+        log,   ///< `subject` is a free message
+        fail,  ///< could not remove `subject`, because of `reason`
+    };
+    Keyword keyword;
+    std::string subject; ///< a path or a message; empty for a FAIL line that breaks the contract
+    std::string reason;  ///< for `fail` only
+
+    friend bool operator==(const StatusLine&, const StatusLine&) = default;
+};
+
+/// Absent for lines that carry nothing: empty ones, unknown keywords, DONE.
+std::optional<StatusLine> parseStatusLine(std::string_view line);
+
+} // namespace kelmar

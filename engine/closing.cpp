@@ -1,0 +1,165 @@
+#include "discovery/identifiers.hpp"
+#include "engine/launchctl.hpp"
+#include "engine/uninstaller.hpp"
+#include "system/executables_under.hpp"
+#include "system/files.hpp"
+#include "system/processes.hpp"
+#include "system/running_applications.hpp"
+#include "system/shell.hpp"
+#include "system/text.hpp"
+
+#include <algorithm>
+#include <cerrno>
+#include <chrono>
+#include <csignal>
+#include <iterator>
+
+#include <unistd.h>
+
+namespace kelmar {
+
+namespace {
+
+// Seconds.
+constexpr double politeWait = 20;
+constexpr double terminateWait = 10;
+constexpr double forcedWait = 5;
+constexpr double killWait = 3;
+
+constexpr const char* launchctl = "/bin/launchctl";
+
+std::string userDomain() {
+    return "gui/" + std::to_string(::getuid());
+}
+
+bool hasGone(pid_t process) {
+    // EPERM: it is there, but somebody else's.
+    return ::kill(process, 0) != 0 && errno != EPERM;
+}
+
+void signalAll(const std::vector<pid_t>& processes, int signal) {
+    for (const pid_t process : processes) {
+        ::kill(process, signal);
+    }
+}
+
+} // namespace
+
+bool Uninstaller::waitForExit(const std::vector<pid_t>& processes, double seconds) {
+    constexpr useconds_t pause = 200'000; // microseconds
+    using Clock = std::chrono::steady_clock;
+    const auto deadline = Clock::now() + std::chrono::duration<double>(seconds);
+    const auto allGone = [&processes] {
+        return std::all_of(processes.begin(), processes.end(), hasGone);
+    };
+    while (Clock::now() < deadline) {
+        if (allGone()) {
+            return true;
+        }
+        ::usleep(pause);
+    }
+    return allGone();
+}
+
+void Uninstaller::quitKelmar() {
+    if (paths.testRoot) {
+        return;
+    }
+    const std::vector<RunningApplication> running = runningApplications(
+        {std::string(legacyBundleIdentifier), {paths.app(Scope::allUsers), paths.app(Scope::me)}});
+    if (running.empty()) {
+        return;
+    }
+    std::vector<pid_t> all;
+    std::vector<std::string> numbers;
+    for (const RunningApplication& application : running) {
+        all.push_back(application.process);
+        numbers.push_back(std::to_string(application.process));
+    }
+    doing("Closing Kelmar");
+    const auto accepted = std::count_if(running.begin(), running.end(),
+                                        [](const RunningApplication& one) { return one.terminate(); });
+    if (accepted != 0 && waitForExit(all, politeWait)) {
+        log("Closed Kelmar.");
+        return;
+    }
+    signalAll(all, SIGTERM);
+    if (waitForExit(all, terminateWait)) {
+        log("Closed Kelmar (it did not answer the quit request).");
+        return;
+    }
+    for (const RunningApplication& application : running) {
+        static_cast<void>(application.forceTerminate()); // whether it helped is seen next
+    }
+    if (waitForExit(all, forcedWait)) {
+        log("Forced Kelmar to close.");
+        return;
+    }
+    log("Kelmar is still running (process " + joined(numbers, ", ") + ")");
+}
+
+void Uninstaller::stopServices() {
+    // launchctl(1): 3 is "no such process", 113 "could not find service": it is not loaded, which is the aim.
+    constexpr std::int32_t noSuchProcess = 3;
+    constexpr std::int32_t notFound = 113;
+    if (paths.testRoot) {
+        return;
+    }
+    for (const std::string& label : inventory.loadedServices) {
+        doing("Stopping " + label);
+        const std::string target = userDomain() + "/" + label;
+        const auto plist = propertyListPath(Shell::run(launchctl, {"print", target}).output);
+        const Shell::Result bootout = Shell::run(launchctl, {"bootout", target});
+        if (bootout.status == 0 || bootout.status == noSuchProcess || bootout.status == notFound) {
+            log("Stopped " + label + ".");
+            if (plist) {
+                stoppedServices.push_back({label, *plist});
+            }
+        } else {
+            log("Could not stop " + label + ": " + trimmed(bootout.output) + " (exit " +
+                std::to_string(bootout.status) + ")");
+        }
+    }
+}
+
+std::vector<pid_t> Uninstaller::processes(const std::vector<std::string>& folders) {
+    return processesUnder(folders);
+}
+
+void Uninstaller::stopProcesses(const std::vector<std::string>& folders) {
+    if (folders.empty()) {
+        return;
+    }
+    std::vector<pid_t> mine;
+    const std::vector<pid_t> all = processes(folders);
+    std::copy_if(all.begin(), all.end(), std::back_inserter(mine),
+                 [](pid_t process) { return processOwner(process) == ::getuid(); });
+    if (mine.empty()) {
+        return;
+    }
+    doing("Stopping Kelmar's background processes");
+    signalAll(mine, SIGTERM);
+    if (!waitForExit(mine, terminateWait)) {
+        signalAll(mine, SIGKILL);
+    }
+    waitForExit(mine, killWait);
+    std::vector<std::string> shown;
+    std::transform(folders.begin(), folders.end(), std::back_inserter(shown),
+                   [this](const std::string& folder) { return paths.display(folder); });
+    log("Stopped " + std::to_string(mine.size()) + " process(es) running from " + joined(shown, ", ") +
+        ".");
+}
+
+void Uninstaller::restartStoppedServices() {
+    for (const StoppedService& service : stoppedServices) {
+        if (!exists(service.plist)) {
+            continue; // removed meanwhile: there is nothing to start
+        }
+        const Shell::Result result = Shell::run(launchctl, {"bootstrap", userDomain(), service.plist});
+        log(result.status == 0
+                ? "Started " + service.label + " again."
+                : "Could not start " + service.label + " again: " + trimmed(result.output));
+    }
+}
+
+} // namespace kelmar

@@ -1,0 +1,18 @@
+#pragma once
+
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace kelmar {
+
+/// `words` with `separator` between each two of them.
+std::string joined(const std::vector<std::string>& words, std::string_view separator);
+
+/// `text` without the blanks and line ends at both of its ends.
+std::string trimmed(std::string_view text);
+
+/// The lines of `text`, without their line feeds and without the empty ones.
+std::vector<std::string> nonEmptyLines(std::string_view text);
+
+} // namespace kelmar
