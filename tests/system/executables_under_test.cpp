@@ -1,51 +1,21 @@
 #include "system/executables_under.hpp"
 #include "system/processes.hpp"
+#include "tests/support/sleeper.hpp"
 #include "tests/support/temporary_folder.hpp"
 
 #include <gtest/gtest.h>
 
 #include <algorithm>
-#include <csignal>
 #include <filesystem>
 #include <string>
 #include <vector>
 
-#include <spawn.h>
-#include <sys/wait.h>
 #include <unistd.h>
 
 namespace kelmar {
 namespace {
 
-/// A copy of sleep(1) at a path of its own, running until the end of the test.
-class Sleeper {
-public:
-    explicit Sleeper(std::string path) : path_(std::move(path)) {
-        std::filesystem::create_directories(std::filesystem::path(path_).parent_path());
-        std::filesystem::copy_file("/bin/sleep", path_);
-        std::string name = "sleep";
-        std::string time = "600";
-        char* arguments[] = {name.data(), time.data(), nullptr};
-        EXPECT_EQ(::posix_spawn(&process_, path_.c_str(), nullptr, nullptr, arguments, environ), 0);
-    }
-
-    Sleeper(const Sleeper&) = delete;
-    Sleeper& operator=(const Sleeper&) = delete;
-
-    ~Sleeper() {
-        ::kill(process_, SIGKILL);
-        ::waitpid(process_, nullptr, 0);
-    }
-
-    [[nodiscard]] pid_t process() const { return process_; }
-
-    [[nodiscard]] const std::string& path() const { return path_; }
-
-private:
-    std::string path_;
-    pid_t process_ = -1;
-};
-
+using test::Sleeper;
 using Processes = std::vector<pid_t>;
 
 TEST(ProcessesUnder, FindsWhatRunsInsideAFolder) {

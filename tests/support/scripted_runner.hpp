@@ -1,0 +1,46 @@
+#pragma once
+
+#include "admin/administrator_runner.hpp"
+
+#include <fstream>
+#include <functional>
+#include <string>
+#include <utility>
+#include <vector>
+
+namespace kelmar::test {
+
+/// Stands for the password prompt and the script behind it: does what a test says.
+class ScriptedRunner : public AdministratorRunner {
+public:
+    /// What the run does; it gets the path of the status file.
+    using Play = std::function<void(const std::string& statusFile)>;
+
+    explicit ScriptedRunner(Play play) : play_(std::move(play)) {}
+
+    void run(const std::string& script, const std::vector<std::string>& arguments,
+             const std::string& reason) override {
+        ++runs;
+        lastScript = script;
+        lastArguments = arguments;
+        lastReason = reason;
+        play_(arguments.at(1));
+    }
+
+    int runs = 0;
+    std::string lastScript;
+    std::vector<std::string> lastArguments;
+    std::string lastReason;
+
+private:
+    Play play_;
+};
+
+/// A play that writes `text` into the status file and ends well.
+inline ScriptedRunner::Play writes(const std::string& text) {
+    return [text](const std::string& statusFile) {
+        std::ofstream(statusFile, std::ios::app | std::ios::binary) << text;
+    };
+}
+
+} // namespace kelmar::test
