@@ -68,9 +68,12 @@ void PasswordPromptRunner::run(const std::string& script, const std::vector<std:
                                  "-p",
                                  promptText(reason),
                                  "--",
+                                 "/usr/bin/env",
+                                 "-i", // nothing of the user's environment decides what root runs
                                  "/bin/bash",
+                                 "-p",
                                  "-c",
-                                 "printf '%s\\n' \"$0\"; exec /bin/bash \"$@\"",
+                                 "printf '%s\\n' \"$0\"; exec /bin/bash -p \"$@\"",
                                  marker,
                                  script};
     all.insert(all.end(), arguments.begin(), arguments.end());

@@ -18,21 +18,35 @@
 # then names the item without a path. What is deleted is named by this file alone, never by a file that a
 # user can write, and nothing that belongs to Kelmar is ever executed.
 
+# Nothing of the caller's environment may decide what runs here: no BASH_ENV, no exported functions, no shell
+# options. A shell started with -p takes none of them; in POSIX mode exec itself can't be such a function.
+case $- in
+*p*) ;;
+*)
+    POSIXLY_CORRECT=1
+    exec /usr/bin/env -i /bin/bash -p -- "$0" "$@"
+    ;;
+esac
+
 set -u
 set -f # no name is ever a pattern
-
-# Nothing of the caller's environment decides what runs here or how text is read.
 PATH=/usr/bin:/bin:/usr/sbin:/sbin
 LC_ALL=C
 IFS=' '
 export PATH LC_ALL
-unset BASH_ENV CDPATH ENV GLOBIGNORE
 umask 077
+trap '' XFSZ # a status file that may not grow must not end this half-way
 cd / || exit 1
 
 readonly agents=(com.kelmar.api com.kelmar.worker)
 readonly receipts=(com.kelmar.pkg.app com.kelmar.pkg.backend)
 readonly data_folders=(Database Store Export CDN CDN_remote Models Staging Logs)
+
+status=''
+all_users=no
+home=''
+test_root=''
+shared_data=()
 
 die() { # STATUS MESSAGE
     printf 'uninstall-as-admin.sh: %s\n' "$2" >&2
@@ -40,12 +54,6 @@ die() { # STATUS MESSAGE
 }
 
 # --- Arguments ---------------------------------------------------------------------------------------------
-
-status=''
-all_users=no
-home=''
-test_root=''
-shared_data=()
 
 # A control character in a path could end a status line and begin one of its own.
 check_path() { # OPTION VALUE
@@ -56,14 +64,26 @@ check_path() { # OPTION VALUE
     esac
 }
 
-while [ $# -gt 0 ]; do
-    case $1 in
-    --all-users)
-        [ "$all_users" = no ] || die 2 "$1: given twice"
-        all_users=yes
-        shift
-        ;;
-    --status | --shared-data | --home | --test-root)
+without_slashes() { # PATH: without those at its end
+    local path=$1
+    while [ "${path%/}" != "$path" ]; do
+        path=${path%/}
+    done
+    printf '%s' "$path"
+}
+
+read_arguments() {
+    while [ $# -gt 0 ]; do
+        case $1 in
+        --all-users)
+            [ "$all_users" = no ] || die 2 "$1: given twice"
+            all_users=yes
+            shift
+            continue
+            ;;
+        --status | --shared-data | --home | --test-root) ;;
+        *) die 2 'an argument that it does not know' ;;
+        esac
         [ $# -ge 2 ] || die 2 "$1: its path is missing"
         check_path "$1" "$2"
         case $1 in
@@ -74,22 +94,20 @@ while [ $# -gt 0 ]; do
             ;;
         --home)
             [ -z "$home" ] || die 2 "$1: given twice"
-            home=$2
+            home=$(without_slashes "$2")
+            [ -n "$home" ] || die 2 "$1: not a person's home folder"
             ;;
         --test-root)
             [ -z "$test_root" ] || die 2 "$1: given twice"
-            test_root=$2
+            test_root=$(without_slashes "$2")
+            [ -n "$test_root" ] || die 2 "$1: not a folder to test in"
             ;;
         esac
         shift 2
-        ;;
-    *) die 2 'an argument that it does not know' ;;
-    esac
-done
-
-[ -n "$status" ] || die 2 '--status: missing'
-[ "$all_users" = yes ] || [ ${#shared_data[@]} -gt 0 ] || [ -n "$home" ] || die 2 'nothing to do'
-[ "$home" != / ] || die 2 "--home: not a person's home folder"
+    done
+    [ -n "$status" ] || die 2 '--status: missing'
+    [ "$all_users" = yes ] || [ ${#shared_data[@]} -gt 0 ] || [ -n "$home" ] || die 2 'nothing to do'
+}
 
 # --- Looking without following -----------------------------------------------------------------------------
 
@@ -130,22 +148,41 @@ enter() { # BASE FOLDER, which is BASE or begins with BASE/
 
 # --- The status file ---------------------------------------------------------------------------------------
 
-# It lies in a folder of the ordinary user, who could put a link to a file of the system in its place: it must
-# be a plain file of one name, of the user this is done for, both before it is opened and after.
-is_sound_status() {
-    case $(describe "$status") in
-    -*' 1 '"$(owner_of "${status%/*}/")") return 0 ;;
-    -*' 1 '"$(owner_of "${home:-$status}/")") return 0 ;;
-    *) return 1 ;;
+# Opens the status file for appending, as descriptor 3, and sets `user` to its owner. It lies in a folder of an
+# ordinary user, who may swap it for a link to a file of the system at any moment. So it gets a second name in
+# a new folder of this process's own: ln(1) names what is there without following a link, nobody else can
+# change that name, and what it names is looked at before it is opened.
+open_status() {
+    local folder=${status%/*}/ private description owner
+    private=.kelmar-$$-$RANDOM$RANDOM
+    case $(describe "${status%/*}") in
+    d*) owner=$(owner_of "${status%/*}") ;;
+    *) die 1 'the status file is not a plain file of the user' ;;
     esac
+    if ! { cd -P -- "$folder" && mkdir -m 700 "./$private" && cd -P -- "./$private"; } 2>/dev/null ||
+        [ "$(owner_of .)" != "$(id -u)" ]; then
+        die 1 'the status file cannot be looked at'
+    fi
+    ln -P -- "$status" ./status 2>/dev/null
+    description=$(describe ./status)
+    user=${description##* }
+    case $description in
+    -*' 2 '"$owner") ;;
+    -*' 2 '"$(owner_of "${home:-/dev/null}/.")") ;;
+    *) user='' ;;
+    esac
+    # Nothing is done for root, who needs no help, but on a test folder.
+    if [ "$user" = 0 ] && [ -z "$test_root" ]; then
+        user=''
+    fi
+    if [ -n "$user" ]; then
+        { exec 3>>./status; } 2>/dev/null || user=''
+    fi
+    rm -f ./status
+    cd -P -- "$folder" 2>/dev/null && rmdir "./$private"
+    cd /
+    [ -n "$user" ] || die 1 'the status file is not a plain file of the user'
 }
-
-is_sound_status || die 1 'the status file is not a plain file of the user'
-user=$(owner_of "$status")
-exec 3>>"$status"
-if ! is_sound_status || ! [ "$status" -ef /dev/fd/3 ]; then
-    die 1 'the status file changed while it was opened'
-fi
 
 report() { # LINE
     # A disk that is full loses the line; what was begun is done all the same.
@@ -173,14 +210,27 @@ report_end() { # PLACE PATH MESSAGE: how the removal of PATH, which is PLACE see
     fi
 }
 
+# Goes to the item's folder, or says why the item can't be removed from there. What is on a disk that somebody
+# mounted inside the item is not Kelmar's, and rm(1) would empty it.
+approach() { # BASE PATH
+    local name=${2##*/}
+    if ! enter "$1" "${2%/*}"; then
+        report "FAIL $2"$'\t''it is reached through a link'
+        return 1
+    fi
+    case $(mount 2>/dev/null) in
+    *" on $(here)/$name "* | *" on $(here)/$name/"*)
+        report "FAIL $2"$'\t''a disk is mounted inside it'
+        return 1
+        ;;
+    esac
+}
+
 # rm(1) removes a link itself, never what it leads to, and follows none below.
 remove_item() { # BASE PATH
     local message
     is_there "$2" || return 0
-    if ! enter "$1" "${2%/*}"; then
-        report "FAIL $2"$'\t''it is reached through a link'
-        return 0
-    fi
+    approach "$1" "$2" || return 0
     report "DOING $2"
     message=$(rm -rf -- "./${2##*/}" 2>&1)
     report_end "./${2##*/}" "$2" "$(one_line "$message")"
@@ -204,10 +254,7 @@ remove_shared_data() { # PATH
 remove_foreign() { # PATH
     local folder=${1%/*} item=./${1##*/} found=() message='' place
     is_there "$1" || return 0
-    if ! enter "$home" "$folder"; then
-        report "FAIL $1"$'\t''it is reached through a link'
-        return 0
-    fi
+    approach "$home" "$1" || return 0
     while IFS= read -r -d '' place; do
         found+=("$place")
         report "DOING $folder/$(one_line "${place#./}")"
@@ -237,42 +284,52 @@ stop_agents() {
     done < <(ps -axo uid= | tr -d ' ' | sort -u -n)
 }
 
-# The processes that run from a folder, whoever owns them. Where there is /proc, the kernel's own link tells;
-# else ps(1) prints the path that was started.
+# The path of what a process runs. Where there is /proc, the kernel's own link tells; else ps(1) does.
+program_of() { # PID
+    readlink "/proc/$1/exe" 2>/dev/null || ps -ww -o comm= -p "$1" 2>/dev/null
+}
+
+# The processes that run from a folder, whoever owns them. A line of the list could be forged, by a program whose
+# path holds a line end: what matches is asked for again by its number.
 processes_under() { # FOLDER ...
     local folder pid program
     while read -r pid program; do
-        [ ! -e "/proc/$pid" ] || program=$(readlink "/proc/$pid/exe" 2>/dev/null)
+        [ ! -e /proc/self/exe ] || program=$(readlink "/proc/$pid/exe" 2>/dev/null)
         for folder in "$@"; do
             case $program in
+            "$folder"/*) ;;
+            *) continue ;;
+            esac
+            case $(program_of "$pid") in
             "$folder"/*) printf '%s\n' "$pid" ;;
             esac
         done
-    done < <(ps -axo pid=,comm=)
+    done < <(ps -axww -o pid= -o comm=)
+}
+
+# Sends a signal to the processes that run from the folders now: a number that was Kelmar's a moment ago may
+# belong to another program by now.
+signal_processes() { # SIGNAL FOLDER ...: sets `signalled` to how many there were
+    local name=$1 pid
+    shift
+    signalled=0
+    while read -r pid; do
+        kill "-$name" "$pid" 2>/dev/null
+        signalled=$((signalled + 1))
+    done < <(processes_under "$@")
 }
 
 stop_processes() { # FOLDER ...
-    local pid pids=() left attempt
-    while read -r pid; do
-        pids+=("$pid")
-    done < <(processes_under "$@")
-    [ ${#pids[@]} -gt 0 ] || return 0
-    kill -TERM "${pids[@]}" 2>/dev/null
-    for attempt in {1..100}; do # ten seconds
-        left=no
-        for pid in "${pids[@]}"; do
-            kill -0 "$pid" 2>/dev/null && left=yes
-        done
-        if [ "$left" = no ] || [ "$attempt" -eq 100 ]; then
-            break
-        fi
+    local count deadline signalled
+    signal_processes TERM "$@"
+    count=$signalled
+    [ "$count" -gt 0 ] || return 0
+    deadline=$((SECONDS + 10))
+    while [ "$SECONDS" -lt "$deadline" ] && [ -n "$(processes_under "$@")" ]; do
         sleep 0.1
     done
-    # Looked up anew: a number may belong to another program by now.
-    while read -r pid; do
-        kill -KILL "$pid" 2>/dev/null
-    done < <(processes_under "$@")
-    report "LOG Stopped ${#pids[@]} process(es) of Kelmar for all users."
+    signal_processes KILL "$@"
+    report "LOG Stopped $count process(es) of Kelmar for all users."
 }
 
 forget_receipts() {
@@ -297,25 +354,32 @@ items_below() { # FOLDER: sets `items` to Kelmar's items there
     done
 }
 
-if [ "$all_users" = yes ]; then
-    items_below "$test_root"
-    if [ -z "$test_root" ]; then
-        stop_agents
-        stop_processes "${items[0]}" "${items[1]}"
+main() {
+    local item items
+    read_arguments "$@"
+    open_status
+    if [ "$all_users" = yes ]; then
+        items_below "$test_root"
+        if [ -z "$test_root" ]; then
+            stop_agents
+            stop_processes "${items[0]}" "${items[1]}"
+        fi
+        for item in "${items[@]}"; do
+            remove_item "$test_root" "$item"
+        done
+        [ -n "$test_root" ] || forget_receipts
     fi
-    for item in "${items[@]}"; do
-        remove_item "$test_root" "$item"
+    for item in ${shared_data[@]+"${shared_data[@]}"}; do
+        remove_shared_data "$item"
     done
-    [ -n "$test_root" ] || forget_receipts
-fi
-for item in ${shared_data[@]+"${shared_data[@]}"}; do
-    remove_shared_data "$item"
-done
-if [ -n "$home" ]; then
-    items_below "$home"
-    for item in "${items[@]}"; do
-        remove_foreign "$item"
-    done
-fi
-report DONE
-exit 0
+    if [ -n "$home" ]; then
+        items_below "$home"
+        for item in "${items[@]}"; do
+            remove_foreign "$item"
+        done
+    fi
+    report DONE
+}
+
+# The last line is read before any work begins: a file that is overwritten meanwhile changes nothing.
+{ main "$@"; exit 0; }

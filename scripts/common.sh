@@ -48,7 +48,7 @@ install_packages() {
 # shellcheck disable=SC2034 # used there
 {
     build_packages=(g++ cmake ninja-build libplist-dev)
-    test_packages=(libgtest-dev)
+    test_packages=(libgtest-dev sudo procps passwd)
     clang_packages=(clang clang-tidy clang-format libclang-rt-dev)
     bench_packages=(libbenchmark-dev findutils coreutils time)
 }

@@ -7,6 +7,8 @@
 
 #include <fcntl.h>
 #include <linux/fs.h>
+#include <sched.h>
+#include <sys/mount.h>
 #include <sys/syscall.h>
 
 namespace kelmar {
@@ -181,6 +183,82 @@ TEST_F(ScriptUnderAttack, NorDoesOneSwappedInsideTheHome) {
     }
     EXPECT_GT(inner.swaps(), rounds);
     EXPECT_GT(outer.swaps(), rounds);
+}
+
+TEST_F(ScriptUnderAttack, AStatusFileSwappedForALinkIsNotWrittenThrough) {
+    if (::getuid() != 0) {
+        GTEST_SKIP() << "only root can run the script for another user";
+    }
+    const std::string systemFile = bait + "/Kelmar/precious";
+    std::filesystem::permissions(systemFile, std::filesystem::perms(0600));
+    before = test::contents(bait);
+    const std::string place = std::filesystem::path(status).parent_path();
+    giveAway(place);
+    for (const std::string& target : {systemFile, bait + "/made by root"}) {
+        std::filesystem::remove(status);
+        std::filesystem::remove(status + ".link");
+        tree.file(status);
+        giveAway(status);
+        const Swapper swapper(status, target);
+        int written = 0;
+        for (int round = 0; round < rounds; ++round) {
+            const test::ProgramEnd end = runWith({"--status", status, "--shared-data",
+                                                  shared("nothing"), "--test-root", system("")});
+            ASSERT_TRUE(end.status == 0 || end.status == 1) << end.error;
+            written += end.status == 0 ? 1 : 0;
+            ASSERT_EQ(test::contents(bait), before) << "in round " << round;
+        }
+        EXPECT_GT(swapper.swaps(), rounds);
+        EXPECT_GT(written, 0) << "some came through";
+    }
+    EXPECT_EQ(std::distance(std::filesystem::directory_iterator(place), {}), 2)
+        << "nothing but the status file and the link are left in its folder";
+}
+
+TEST_F(ScriptUnderAttack, WithoutATestRootNothingIsDoneForRoot) {
+    if (::getuid() != 0) {
+        GTEST_SKIP() << "what root is refused can only be seen as root";
+    }
+    // Even if this went on, there is no such folder.
+    const test::ProgramEnd end =
+        runWith({"--status", status, "--shared-data", "/Users/Shared/@Kelmar/none"});
+    EXPECT_EQ(end.status, 1);
+    EXPECT_EQ(end.error,
+              "uninstall-as-admin.sh: the status file is not a plain file of the user\n");
+    EXPECT_EQ(statusLines(), Lines{});
+}
+
+TEST_F(ScriptUnderAttack, ADiskMountedInsideAnItemIsNotEmptied) {
+    if (::getuid() != 0) {
+        GTEST_SKIP() << "only root can mount something";
+    }
+    tree.services(Scope::allUsers).folder(system("/Library/Kelmar/disk")).services(Scope::me);
+    tree.folder(home("/Library/Kelmar/lib/disk"));
+    test::Program program;
+    program.path = "/bin/bash";
+    program.arguments = {KELMAR_SCRIPT, "--status", status,        "--all-users",
+                         "--home",      home(""),   "--test-root", tree.paths().systemRoot};
+    const std::vector<std::string> places{system("/Library/Kelmar/disk"),
+                                          home("/Library/Kelmar/lib/disk")};
+    program.inChild = [this, places] {
+        bool mounted = ::unshare(CLONE_NEWNS) == 0 &&
+                       ::mount("none", "/", nullptr, MS_REC | MS_PRIVATE, nullptr) == 0;
+        for (const std::string& place : places) {
+            mounted =
+                mounted && ::mount(bait.c_str(), place.c_str(), nullptr, MS_BIND, nullptr) == 0;
+        }
+        if (!mounted) {
+            ::_exit(99);
+        }
+    };
+    const test::ProgramEnd end = program.run();
+    if (end.status == 99) {
+        GTEST_SKIP() << "this machine lets nobody mount anything";
+    }
+    EXPECT_EQ(end.status, 0) << end.error;
+    EXPECT_EQ(statusLines(),
+              (Lines{"FAIL " + system("/Library/Kelmar") + "\ta disk is mounted inside it",
+                     "FAIL " + home("/Library/Kelmar") + "\ta disk is mounted inside it", "DONE"}));
 }
 
 } // namespace

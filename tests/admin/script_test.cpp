@@ -184,17 +184,27 @@ TEST_F(Script, TheCallersEnvironmentDecidesNothing) {
     tree.file(folder / "evil/rm", "#!/bin/sh\ntouch " + (folder / "trapped") + "\n");
     tree.file(folder / "evil/startup", "touch " + (folder / "trapped") + "\n");
     std::filesystem::permissions(folder / "evil/rm", std::filesystem::perms(0755));
-    test::Program program;
-    program.path = "/bin/bash";
-    program.arguments = {KELMAR_SCRIPT, "--status",    status,
-                         "--all-users", "--test-root", tree.paths().systemRoot};
-    program.environment = {{"PATH", folder / "evil"},   {"IFS", "/"},
-                           {"CDPATH", folder / "evil"}, {"ENV", folder / "evil/startup"},
-                           {"GLOBIGNORE", "*"},         {"LC_ALL", "tr_TR.UTF-8"},
-                           {"POSIXLY_CORRECT", "1"}};
-    EXPECT_EQ(program.run().status, 0);
-    EXPECT_FALSE(isThere(folder / "trapped"));
-    EXPECT_TRUE(Scanner::installation(Scope::allUsers, tree.paths()).paths().empty());
+    const std::string trap = "() { touch " + (folder / "trapped") + "; }";
+    const std::map<std::string, std::optional<std::string>> all{
+        {"PATH", folder / "evil"},   {"IFS", "/"},
+        {"CDPATH", folder / "evil"}, {"ENV", folder / "evil/startup"},
+        {"GLOBIGNORE", "*"},         {"LC_ALL", "tr_TR.UTF-8"},
+        {"TIME_STYLE", "bad"},       {"FUNCNEST", "1"},
+        {"BASH_FUNC_rm%%", trap},    {"BASH_FUNC_set%%", trap},
+        {"BASH_FUNC_cd%%", trap},    {"BASH_FUNC_exec%%", trap}};
+    const std::map<std::string, std::optional<std::string>> posix{{"POSIXLY_CORRECT", "1"},
+                                                                  {"ENV", folder / "evil/startup"}};
+    for (const auto& environment : {all, posix}) {
+        tree.everything();
+        test::Program program;
+        program.path = "/bin/bash";
+        program.arguments = {KELMAR_SCRIPT, "--status",    status,
+                             "--all-users", "--test-root", tree.paths().systemRoot};
+        program.environment = environment;
+        EXPECT_EQ(program.run().status, 0);
+        EXPECT_FALSE(isThere(folder / "trapped"));
+        EXPECT_TRUE(Scanner::installation(Scope::allUsers, tree.paths()).paths().empty());
+    }
 }
 
 } // namespace

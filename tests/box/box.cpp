@@ -1,9 +1,11 @@
 #include "tests/box/box.hpp"
 
 #include <cerrno>
+#include <csignal>
 #include <cstring>
 #include <filesystem>
 #include <fstream>
+#include <stdexcept>
 #include <system_error>
 #include <utility>
 
@@ -83,7 +85,8 @@ Box::Box() : root_(folder_ / "root") {
     mustMount("/proc", outside("/proc"), nullptr, MS_BIND | MS_REC);
     mustMount("/dev", outside("/dev"), nullptr, MS_BIND | MS_REC);
 
-    for (const char* const tool : {"/bin/launchctl", "/usr/sbin/pkgutil", "/usr/bin/security"}) {
+    for (const char* const tool : {"/bin/launchctl", "/usr/sbin/pkgutil", "/usr/bin/security",
+                                   "/usr/bin/defaults", "/usr/bin/tccutil"}) {
         const std::string place = outside(tool);
         fs::remove(place);
         fs::copy_file(std::string(KELMAR_STAND_INS) + "/" + fs::path(tool).filename().native(),
@@ -93,7 +96,11 @@ Box::Box() : root_(folder_ / "root") {
     write(outside("/box/asked"), "", fs::perms(0666));
     write(outside("/etc/passwd"), "ann:x:501:501:Ann:/Users/ann/:/bin/sh\n", fs::perms(0644));
     fs::create_directories(outside("/box/bin"));
-    fs::copy_file(test::uninstaller({}, {}).path, outside("/box/bin/kelmar-uninstaller"));
+    const fs::path executable = test::uninstaller({}, {}).path;
+    fs::copy_file(executable, outside("/box/bin/kelmar-uninstaller"));
+    fs::copy_file(executable.parent_path() / "uninstall-as-admin.sh",
+                  outside("/box/bin/uninstall-as-admin.sh"));
+    letUserBecomeRoot();
     for (const char* const own : {"/Users/ann", "/Users/ann/Library", "/box/tmp"}) {
         fs::create_directories(outside(own));
         chownToUser(own);
@@ -105,6 +112,14 @@ Box::Box() : root_(folder_ / "root") {
 }
 
 Box::~Box() {
+    sleepers_.clear();
+    for (const pid_t process : background_) {
+        ::kill(process, SIGKILL);
+        ::waitpid(process, nullptr, 0);
+    }
+    for (const std::string& mounted : mounts_) {
+        ::umount2(mounted.c_str(), MNT_DETACH);
+    }
     ::umount2(outside("/dev").c_str(), MNT_DETACH);
     ::umount2(outside("/proc").c_str(), MNT_DETACH);
     ::umount2(root_.c_str(), MNT_DETACH);
@@ -127,17 +142,64 @@ void Box::chownToUser(const std::string& path) const {
     }
 }
 
-void Box::addReceipt(const std::string& identifier, const std::string& volume) const {
-    write(outside("/box/receipts/" + flat(volume) + "/" + identifier), "", fs::perms(0666));
+void Box::set(const std::string& path, const std::string& text) const {
+    write(outside(path), text, fs::perms(0666));
+    fs::permissions(fs::path(outside(path)).parent_path(), fs::perms(0777));
+}
+
+void Box::addReceipt(const std::string& identifier, const std::string& volume,
+                     const std::string& hitch) const {
+    set("/box/receipts/" + flat(volume) + "/" + identifier, hitch);
 }
 
 void Box::addService(const std::string& label, const std::string& plist) const {
-    write(outside("/box/services/gui:" + std::to_string(user) + ":" + label), plist,
-          fs::perms(0666));
+    set("/box/services/gui:" + std::to_string(user) + ":" + label, plist);
 }
 
-void Box::addKeychainItem(const std::string& service) const {
-    write(outside("/box/keychain/" + flat(service)), "item\n", fs::perms(0666));
+void Box::addKeychainItem(const std::string& service, const std::string& item) const {
+    set("/box/keychain/" + service, item + "\n");
+}
+
+/// Gives the user a password and the right to run anything with it.
+void Box::letUserBecomeRoot() const {
+    write(outside("/etc/sudoers.d/ann"), "ann ALL=(ALL) ALL\n", fs::perms(0440));
+    write(outside("/etc/shadow"), "ann:*:20000::::::\n", fs::perms(0640));
+    Program change;
+    change.path = "/bin/sh";
+    change.arguments = {"-c", std::string("echo 'ann:") + password + "' | /usr/sbin/chpasswd"};
+    change.root = root_;
+    const ProgramEnd end = change.run();
+    if (end.status != 0) {
+        throw std::runtime_error("no password for the box's user: " + end.error);
+    }
+}
+
+Sleeper& Box::start(const std::string& path, uid_t asUser, const std::vector<int>& ignoring) const {
+    sleepers_.push_back(std::make_unique<Sleeper>(
+        outside(path), [ignore = Sleeper::ignoring(ignoring), become = Sleeper::asUser(asUser)] {
+            ignore();
+            become();
+        }));
+    sleepers_.back()->reapInBackground();
+    return *sleepers_.back();
+}
+
+void Box::runInBackground(const std::string& script) const {
+    const pid_t child = ::fork();
+    if (child == 0) {
+        if (::chroot(root_.c_str()) == 0 && ::chdir("/") == 0) {
+            ::execl("/bin/sh", "sh", "-c", script.c_str(), nullptr);
+        }
+        ::_exit(127);
+    }
+    background_.push_back(child);
+}
+
+void Box::mountOver(const std::string& path) const {
+    const std::string empty = folder_ / "layer/empty";
+    fs::create_directories(empty);
+    mustMount(empty.c_str(), outside(path), nullptr, MS_BIND);
+    mounts_.push_back(outside(path));
 }
 
 void Box::replace(const std::string& path, const std::string& script) const {
@@ -152,6 +214,7 @@ Program Box::uninstaller(const std::vector<std::string>& arguments) const {
     program.user = user;
     program.environment["TMPDIR"] = "/box/tmp";
     program.environment["HOME"] = "/nowhere";
+    program.environment["SUDO_ASKPASS"] = askpass();
     return program;
 }
 

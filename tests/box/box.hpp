@@ -3,8 +3,10 @@
 #include "discovery/kelmar_paths.hpp"
 #include "tests/support/mac_tree.hpp"
 #include "tests/support/program.hpp"
+#include "tests/support/sleeper.hpp"
 #include "tests/support/temporary_folder.hpp"
 
+#include <memory>
 #include <optional>
 #include <string>
 #include <vector>
@@ -37,9 +39,32 @@ public:
     [[nodiscard]] MacTree tree() const;
     void chownToUser(const std::string& path) const;
 
-    void addReceipt(const std::string& identifier, const std::string& volume) const;
+    /// With a `hitch`, the receipt can't be forgotten, and pkgutil says the hitch.
+    void addReceipt(const std::string& identifier, const std::string& volume,
+                    const std::string& hitch = "") const;
     void addService(const std::string& label, const std::string& plist) const;
-    void addKeychainItem(const std::string& service) const;
+    void addKeychainItem(const std::string& service, const std::string& item = "item") const;
+
+    /// Puts a file into the box, for everyone to change: state of the stand-ins.
+    void set(const std::string& path, const std::string& text = "") const;
+
+    /// A program in the box that answers sudo's question for a password; `script` prints the
+    /// answer.
+    [[nodiscard]] static std::string askpass() { return "/box/askpass"; }
+
+    void answerPasswordWith(const std::string& script) const { replace(askpass(), script); }
+
+    static constexpr const char* password = "open sesame";
+
+    /// Starts a copy of sleep(1) at a path in the box; it ends with the box.
+    Sleeper& start(const std::string& path, uid_t asUser = user,
+                   const std::vector<int>& ignoring = {}) const;
+
+    /// Runs a shell script in the box as root, in the background, until the box ends.
+    void runInBackground(const std::string& script) const;
+
+    /// Mounts an empty folder over a folder of the box, which then nobody can remove.
+    void mountOver(const std::string& path) const;
 
     /// Puts another program in the place of one in the box.
     void replace(const std::string& path, const std::string& script) const;
@@ -51,8 +76,13 @@ public:
     [[nodiscard]] std::vector<std::string> asked() const;
 
 private:
+    void letUserBecomeRoot() const;
+
     TemporaryFolder folder_;
     std::string root_;
+    mutable std::vector<std::unique_ptr<Sleeper>> sleepers_;
+    mutable std::vector<pid_t> background_;
+    mutable std::vector<std::string> mounts_;
 };
 
 } // namespace kelmar::test

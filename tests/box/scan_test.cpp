@@ -7,11 +7,8 @@
 #include <filesystem>
 #include <memory>
 #include <string>
+#include <thread>
 #include <vector>
-
-#include <spawn.h>
-#include <sys/wait.h>
-#include <unistd.h>
 
 namespace kelmar {
 namespace {
@@ -112,28 +109,14 @@ TEST_F(ScanOfAPretendMac, FilesThatBelongToTheSystemAreSaidToNeedAnAdministrator
 }
 
 TEST_F(ScanOfAPretendMac, ARunningAppIsNotedBesideWhatThereIsToRemove) {
-    test::MacTree tree = box->tree();
-    const std::string executable = tree.paths().app(Scope::me) + "/Contents/MacOS/Kelmar";
-    tree.folder(std::filesystem::path(executable).parent_path());
-    std::filesystem::copy_file("/bin/sleep", executable);
+    const std::string executable = "/Users/ann/Applications/Kelmar.app/Contents/MacOS/Kelmar";
+    test::Sleeper& app = box->start(executable);
     box->chownToUser("/Users/ann/Applications");
-
-    const pid_t runner = ::fork();
-    if (runner == 0) {
-        if (::chroot(box->outside("").c_str()) != 0 || ::setgid(Box::user) != 0 ||
-            ::setuid(Box::user) != 0) {
-            ::_exit(1);
-        }
-        ::execl("/Users/ann/Applications/Kelmar.app/Contents/MacOS/Kelmar", "Kelmar", "600",
-                nullptr);
-        ::_exit(1);
+    const std::string seen = listing();
+    ::kill(app.process(), SIGKILL);
+    while (!app.hasEnded()) {
+        std::this_thread::sleep_for(std::chrono::milliseconds(5));
     }
-    std::string seen;
-    for (int attempt = 0; attempt < 50 && seen.find("running") == std::string::npos; ++attempt) {
-        seen = listing(); // until the child has become the app
-    }
-    ::kill(runner, SIGKILL);
-    ::waitpid(runner, nullptr, 0);
     EXPECT_EQ(seen, "Installed for this user: Kelmar (app missing)\n"
                     "    ~/Applications/Kelmar.app\n"
                     "Kelmar is running.\n");
