@@ -12,11 +12,15 @@
 
 #include <cstdio>
 #include <cstdlib>
+#include <filesystem>
+#include <fstream>
 #include <functional>
 #include <map>
 #include <string>
 #include <vector>
 
+#include <fcntl.h>
+#include <sys/stat.h>
 #include <unistd.h>
 
 namespace kelmar::bench {
@@ -87,8 +91,10 @@ void measureStartUp() {
 
 void measureScan(const std::string& root) {
     const std::vector<std::string> folders = tenDataFolders(root);
-    ::setenv("KELMAR_UNINSTALLER_TEST_ROOT", root.c_str(), 1);
-    add("2-scan/ours", 5, [] { runChild({KELMAR_EXECUTABLE, "--scan"}, true); });
+    add("2-scan/ours", 5, [root] {
+        ::setenv("KELMAR_UNINSTALLER_TEST_ROOT", root.c_str(), 1);
+        runChild({KELMAR_EXECUTABLE, "--scan"}, true);
+    });
     add("2-scan/beside", 5, [folders] {
         for (const std::string& folder : folders) {
             runChild({"/usr/bin/du", "-sk", folder}, true);
@@ -103,6 +109,104 @@ void measureOwnership(const std::string& root) {
     add("3-ownership/ours", 1, [top] { benchmark::DoNotOptimize(Scanner::ownedByMe(top)); });
     add("3-ownership/beside", 1, [top, user] {
         runChild({"/usr/bin/find", top, "!", "-user", user, "-print", "-quit"}, true);
+    });
+}
+
+/// A data folder of 200,000 files in 2,000 folders, made anew before each removal.
+class Rubbish {
+public:
+    explicit Rubbish(std::string root) : root_(std::move(root)) {}
+
+    void make() const {
+        const test::MacTree tree(root_);
+        const std::string store = tree.paths().dataRoot(Scope::me) + "/Store";
+        for (int folder = 0; folder < 2000; ++folder) {
+            const std::string path = store + "/" + std::to_string(folder);
+            std::filesystem::create_directories(path);
+            const int descriptor = ::open(path.c_str(), O_RDONLY | O_DIRECTORY);
+            for (int file = 0; file < 100; ++file) {
+                ::mknodat(descriptor, std::to_string(file).c_str(), S_IFREG | 0600, 0);
+            }
+            ::close(descriptor);
+        }
+    }
+
+    [[nodiscard]] const std::string& root() const { return root_; }
+
+private:
+    std::string root_;
+};
+
+void addRemoval(const std::string& name, const Rubbish& rubbish,
+                const std::function<void()>& step) {
+    benchmark::RegisterBenchmark(name.c_str(),
+                                 [rubbish, step](benchmark::State& state) {
+                                     for (auto _ : state) {
+                                         state.PauseTiming();
+                                         rubbish.make();
+                                         state.ResumeTiming();
+                                         step();
+                                     }
+                                 })
+        ->Iterations(1)
+        ->Repetitions(11)
+        ->UseRealTime();
+}
+
+void measureRemoval(const std::string& root) {
+    const Rubbish rubbish(root);
+    addRemoval("5-removal/ours", rubbish, [root] {
+        ::setenv("KELMAR_UNINSTALLER_TEST_ROOT", root.c_str(), 1);
+        runChild({KELMAR_EXECUTABLE, "--uninstall", "--delete-data"}, true);
+    });
+    addRemoval("5-removal/beside", rubbish, [root] {
+        runChild({"/bin/rm", "-rf", root + "/home/Kelmar"}, true);
+    });
+}
+
+/// An uninstall of a small tree beside what it runs: seven times rm and once the script.
+void measureSmallRun(const std::string& root) {
+    const auto make = [root] {
+        test::MacTree(root)
+            .services(Scope::allUsers)
+            .services(Scope::me)
+            .temporaryFiles()
+            .dataFolder(Scope::me, "Store");
+    };
+    const auto addSmall = [make](const char* name, const std::function<void()>& step) {
+        benchmark::RegisterBenchmark(name,
+                                     [make, step](benchmark::State& state) {
+                                         for (auto _ : state) {
+                                             state.PauseTiming();
+                                             make();
+                                             state.ResumeTiming();
+                                             step();
+                                         }
+                                     })
+            ->Iterations(10)
+            ->Repetitions(repetitions)
+            ->UseRealTime();
+    };
+    const test::MacTree tree(root);
+    const KelmarPaths paths = tree.paths();
+    addSmall("6-small-run/ours", [root] {
+        ::setenv("KELMAR_UNINSTALLER_TEST_ROOT", root.c_str(), 1);
+        runChild({KELMAR_EXECUTABLE, "--uninstall", "--delete-data"}, true);
+    });
+    addSmall("6-small-run/beside", [paths, root] {
+        const std::string status = root + "/status/file";
+        std::filesystem::create_directories(root + "/status");
+        std::ofstream(status).close();
+        runChild({"/bin/bash", KELMAR_SCRIPT, "--status", status, "--all-users", "--test-root",
+                  paths.systemRoot},
+                 true);
+        for (const std::string& path :
+             {paths.services(Scope::me), paths.temporaryDirectory + "/Kelmar",
+              paths.temporaryDirectory + "/Kelmar_temp",
+              paths.temporaryDirectory + "/sd-soffice-diagram",
+              paths.dataRoot(Scope::me) + "/Store", paths.dataRoot(Scope::me)}) {
+            runChild({"/bin/rm", "-rf", "--", path}, true);
+        }
     });
 }
 
@@ -132,13 +236,18 @@ int main(int count, char** arguments) {
     measureScan(folder + "/scan");
     measureOwnership(folder);
     measureShell();
+    measureRemoval(folder + "/removal");
+    measureSmallRun(folder + "/small");
     PairReporter reporter(
         {{"1-start-up", {"start-up (`--help`)", "`/bin/true`", 2.0}},
          {"2-scan", {"`--scan` of ten data folders", "ten `du -sk`", 1.1}},
          {"3-ownership",
           {"`ownedByMe`, 100,000 files in 5,000 folders", "`find DIR ! -user ID -print -quit`",
            0.6}},
-         {"4-shell", {"`Shell::run` of `/bin/true`", "bare `posix_spawn` and wait", 1.2}}});
+         {"4-shell", {"`Shell::run` of `/bin/true`", "bare `posix_spawn` and wait", 1.2}},
+         {"5-removal",
+          {"`--uninstall --delete-data` of 200,000 files", "`rm -rf` of the same tree", 1.1}},
+         {"6-small-run", {"`--uninstall` of a small tree", "the programs it runs", 2.0}}});
     benchmark::RunSpecifiedBenchmarks(&reporter);
     reporter.printTable();
     return EXIT_SUCCESS;

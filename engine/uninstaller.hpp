@@ -112,9 +112,9 @@ public:
     /// The stages that a run will have, in order; computed afresh at every call.
     [[nodiscard]] std::vector<TitledStage> stages() const;
 
-    /// The whole uninstall. `emit` is called during the run only, never twice at once: on this thread, or,
+    /// The whole uninstall. `callback` is called during the run only, never twice at once: on this thread, or,
     /// while this thread waits for the administrator's script, on the thread that follows its progress.
-    Outcome run(Emit emit);
+    Outcome run(Emit callback);
 
     // Closing. What could not be done is logged, never a failure: verification finds what is left.
 

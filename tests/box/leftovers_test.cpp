@@ -3,13 +3,12 @@
 namespace kelmar {
 namespace {
 
-using test::Box;
 using test::ProgramEnd;
 
 class Leftovers : public test::UninstallOnAPretendMac {
 protected:
     /// The lines after "Not removed:".
-    [[nodiscard]] Lines notRemoved(const ProgramEnd& end) const {
+    [[nodiscard]] static Lines notRemoved(const ProgramEnd& end) {
         Lines lines = linesOf(end.output);
         const auto heading = std::find(lines.begin(), lines.end(), "Not removed:");
         EXPECT_EQ(end.status, heading == lines.end() ? 0 : 1) << end.output;

@@ -4,7 +4,6 @@
 namespace kelmar {
 namespace {
 
-using test::Box;
 using test::ProgramEnd;
 using test::UninstallOnAPretendMac;
 
