@@ -6,21 +6,26 @@
 
 namespace kelmar {
 
-/// Why the administrator's script did not do its work. The caller puts either case into its own words.
+/// Why the administrator's script did not do its work. The caller puts either case into its own
+/// words.
 class AdministratorError : public std::runtime_error {
 public:
     enum class Kind {
-        failed,    ///< it could not be run or ended in failure: `what` says why, in the system's or its words
+        failed,    ///< it could not be run or ended in failure: `what` says why, in the system's or
+                   ///< its words
         cancelled, ///< the prompt was refused, dismissed, or could not be shown; nothing ran
     };
 
     static AdministratorError failed(const std::string& why) { return {Kind::failed, why}; }
+
     static AdministratorError cancelled() { return {Kind::cancelled, "cancelled"}; }
 
     [[nodiscard]] Kind kind() const { return kind_; }
 
 private:
-    AdministratorError(Kind kind, const std::string& what) : std::runtime_error(what), kind_(kind) {}
+    AdministratorError(Kind kind, const std::string& what)
+        : std::runtime_error(what),
+          kind_(kind) {}
 
     Kind kind_;
 };
@@ -33,10 +38,11 @@ public:
     AdministratorRunner& operator=(const AdministratorRunner&) = delete;
     virtual ~AdministratorRunner() = default;
 
-    /// Runs the file `script` with `arguments`, each passed as exactly one argument whatever characters it
-    /// holds, after asking for an administrator's password with the sentence `reason` where that is
-    /// needed. Returns when the script has ended with status 0; throws AdministratorError otherwise.
-    /// Blocks its thread, without a time-out; may be called from any thread.
+    /// Runs the file `script` with `arguments`, each passed as exactly one argument whatever
+    /// characters it holds, after asking for an administrator's password with the sentence `reason`
+    /// where that is needed. Returns when the script has ended with status 0; throws
+    /// AdministratorError otherwise. Blocks its thread, without a time-out; may be called from any
+    /// thread.
     virtual void run(const std::string& script, const std::vector<std::string>& arguments,
                      const std::string& reason) = 0;
 };

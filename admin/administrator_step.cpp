@@ -79,7 +79,8 @@ Uninstaller::runAsAdministrator(const std::vector<std::string>& arguments) {
         failures.push_back({folder.path(), folder.error().message()});
         return AdministratorOutcome::failed;
     }
-    doing(paths.testRoot ? "Running the administrator step" : "Waiting for an administrator's password");
+    doing(paths.testRoot ? "Running the administrator step"
+                         : "Waiting for an administrator's password");
 
     // The tail's last callback has returned before this function does, so `this` outlives them all.
     StatusTail tail(folder.file(), [this](const std::string& line) { handleStatusLine(line); });
@@ -91,8 +92,9 @@ Uninstaller::runAsAdministrator(const std::vector<std::string>& arguments) {
     try {
         administrator->run(*script, all, administratorReason());
     } catch (const AdministratorError& error) {
-        outcome = error.kind() == AdministratorError::Kind::cancelled ? AdministratorOutcome::cancelled
-                                                                      : AdministratorOutcome::failed;
+        outcome = error.kind() == AdministratorError::Kind::cancelled
+                      ? AdministratorOutcome::cancelled
+                      : AdministratorOutcome::failed;
         trouble = error.what();
     } catch (const std::exception& error) {
         outcome = AdministratorOutcome::failed;

@@ -4,8 +4,8 @@
 
 namespace kelmar {
 
-/// Runs the script as the current user and asks for nothing: for test roots. Only ever throws `failed`, with
-/// everything that the script printed.
+/// Runs the script as the current user and asks for nothing: for test roots. Only ever throws
+/// `failed`, with everything that the script printed.
 class CurrentUserRunner : public AdministratorRunner {
 public:
     void run(const std::string& script, const std::vector<std::string>& arguments,

@@ -1,5 +1,4 @@
 #include "admin/password_prompt_runner.hpp"
-
 #include "system/shell.hpp"
 #include "system/text.hpp"
 #include "system/uuid.hpp"
@@ -19,8 +18,12 @@ constexpr const char* sudo = "/usr/bin/sudo";
 
 /// The usual programs that ask for a password in a window, best known first.
 constexpr std::array<const char*, 6> askpassPrograms{
-    "/usr/bin/ssh-askpass",        "/usr/bin/ksshaskpass",       "/usr/libexec/seahorse/ssh-askpass",
-    "/usr/bin/lxqt-openssh-askpass", "/usr/lib/ssh/x11-ssh-askpass", "/usr/bin/x11-ssh-askpass",
+    "/usr/bin/ssh-askpass",
+    "/usr/bin/ksshaskpass",
+    "/usr/libexec/seahorse/ssh-askpass",
+    "/usr/bin/lxqt-openssh-askpass",
+    "/usr/lib/ssh/x11-ssh-askpass",
+    "/usr/bin/x11-ssh-askpass",
 };
 
 /// sudo(8): -A takes the program from SUDO_ASKPASS. Empty when there is none; sudo then can't ask.
@@ -46,8 +49,8 @@ std::string promptText(const std::string& reason) {
     return text;
 }
 
-/// What is printed first of all by the command that sudo runs. It can't be guessed, so neither sudo nor the
-/// askpass program prints it by accident.
+/// What is printed first of all by the command that sudo runs. It can't be guessed, so neither sudo
+/// nor the askpass program prints it by accident.
 std::string newMarker() {
     return "kelmar-uninstaller-started-" + randomUuid();
 }
@@ -61,7 +64,8 @@ void PasswordPromptRunner::run(const std::string& script, const std::vector<std:
                                          std::generic_category().message(errno));
     }
     const std::string marker = newMarker();
-    // The words of the command line that is given to a shell are fixed; everything else is an argument.
+    // The words of the command line that is given to a shell are fixed; everything else is an
+    // argument.
     std::vector<std::string> all{"SUDO_ASKPASS=" + askpassProgram(),
                                  sudo,
                                  "-A",

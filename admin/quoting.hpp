@@ -13,7 +13,8 @@ std::string shellQuoted(std::string_view word);
 /// `words`, every one quoted, with a blank between.
 std::string shellCommand(const std::vector<std::string>& words);
 
-/// `text` as a string literal of AppleScript: backslashes and double quotes escaped, in double quotes.
+/// `text` as a string literal of AppleScript: backslashes and double quotes escaped, in double
+/// quotes.
 std::string appleScriptLiteral(std::string_view text);
 
 /// The AppleScript source that runs `command` with an administrator's rights, asking with `reason`.

@@ -5,8 +5,8 @@
 
 namespace kelmar {
 
-/// A fresh folder below `parent` for the status file of one run, both readable by this user alone whatever
-/// the umask is, and both gone again at its end.
+/// A fresh folder below `parent` for the status file of one run, both readable by this user alone
+/// whatever the umask is, and both gone again at its end.
 class StatusFolder {
 public:
     explicit StatusFolder(const std::string& parent);
@@ -14,11 +14,12 @@ public:
     StatusFolder& operator=(const StatusFolder&) = delete;
     ~StatusFolder();
 
-    /// Why the folder could not be made, if it could not. (A missing status file is no error: nothing is
-    /// then read from it.)
+    /// Why the folder could not be made, if it could not. (A missing status file is no error:
+    /// nothing is then read from it.)
     [[nodiscard]] const std::error_code& error() const { return error_; }
 
     [[nodiscard]] const std::string& path() const { return path_; }
+
     [[nodiscard]] std::string file() const { return path_ + "/status"; }
 
 private:

@@ -6,8 +6,8 @@
 
 namespace kelmar {
 
-/// A line of the administrator's script about its progress, taken apart. A line is a keyword, one blank, and
-/// the rest verbatim; blanks before the keyword are skipped.
+/// A line of the administrator's script about its progress, taken apart. A line is a keyword, one
+/// blank, and the rest verbatim; blanks before the keyword are skipped.
 struct StatusLine {
     enum class Keyword {
         doing, ///< about to remove `subject`

@@ -21,7 +21,9 @@ constexpr std::chrono::milliseconds period{200};
 /// The bytes of `path` from `offset` to where the file ends now.
 std::string bytesFrom(const std::string& path, std::uint64_t offset) {
     const Descriptor file(::open(path.c_str(), O_RDONLY | O_CLOEXEC | O_NONBLOCK));
+
     struct stat status {};
+
     if (!file.isOpen() || ::fstat(file.get(), &status) != 0 ||
         static_cast<std::uint64_t>(status.st_size) <= offset) {
         return {};
@@ -44,7 +46,8 @@ std::string bytesFrom(const std::string& path, std::uint64_t offset) {
 } // namespace
 
 StatusTail::StatusTail(std::string file, OnLine onLine)
-    : file_(std::move(file)), onLine_(std::move(onLine)) {}
+    : file_(std::move(file)),
+      onLine_(std::move(onLine)) {}
 
 void StatusTail::start() {
     queue_.startTimer(period, [this] { read(); });
@@ -63,7 +66,8 @@ void StatusTail::stop() {
 void StatusTail::read() {
     const std::string bytes = bytesFrom(file_, offset_);
     offset_ += bytes.size();
-    // Each read by itself: a character that is cut between two of them becomes replacements on both sides.
+    // Each read by itself: a character that is cut between two of them becomes replacements on both
+    // sides.
     const std::string text = decodeUtf8(bytes);
     std::string_view rest = text;
     for (std::size_t end = rest.find('\n'); end != std::string_view::npos; end = rest.find('\n')) {

@@ -9,8 +9,8 @@
 
 namespace kelmar {
 
-/// Follows a growing file and hands out its lines, as tail(1) with -f does. Made, started and stopped once
-/// each. All reads and all calls of the callback happen on a queue of the tail's own.
+/// Follows a growing file and hands out its lines, as tail(1) with -f does. Made, started and
+/// stopped once each. All reads and all calls of the callback happen on a queue of the tail's own.
 class StatusTail {
 public:
     using OnLine = std::function<void(const std::string&)>;
@@ -25,8 +25,9 @@ public:
     /// Reads at once and then every 200 milliseconds. A file that is not there yet is tried again.
     void start();
 
-    /// Reads a last time and hands out a last line that never got its line feed. When it returns, no read is
-    /// running, none follows, and everything that the callback did is visible to the caller.
+    /// Reads a last time and hands out a last line that never got its line feed. When it returns,
+    /// no read is running, none follows, and everything that the callback did is visible to the
+    /// caller.
     void stop();
 
     /// Whether a line beginning with "DONE" has been seen; final once `stop` has returned.

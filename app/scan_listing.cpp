@@ -76,7 +76,8 @@ void printScan(const KelmarPaths& paths) {
         printLine("Kelmar is running.");
     }
     if (!inventory.loadedServices.empty()) {
-        printLine("Services loaded in this login session: " + joined(inventory.loadedServices, ", "));
+        printLine("Services loaded in this login session: " +
+                  joined(inventory.loadedServices, ", "));
     }
     if (!inventory.settings.empty()) {
         printLine("Settings:");

@@ -42,8 +42,11 @@ public:
         const auto title = titles_.find(event.stage);
         printLine("==> " + (title == titles_.end() ? "" : title->second));
     }
+
     void operator()(const Uninstaller::Log& event) const { printLine(indent + event.text); }
+
     void operator()(const Uninstaller::StageFinished& /*event*/) const {}
+
     void operator()(const Uninstaller::Doing& /*event*/) const {}
 
 private:
@@ -72,8 +75,8 @@ std::int32_t uninstall(const KelmarPaths& paths, bool deleteData) {
     }
     Uninstaller uninstaller(paths, inventory, selection(inventory, deleteData));
     const EventPrinter printer(uninstaller);
-    const Uninstaller::Outcome outcome =
-        uninstaller.run([&printer](const Uninstaller::Event& event) { std::visit(printer, event); });
+    const Uninstaller::Outcome outcome = uninstaller.run(
+        [&printer](const Uninstaller::Event& event) { std::visit(printer, event); });
     if (const auto* const finished = std::get_if<Uninstaller::Finished>(&outcome)) {
         return report(*finished, paths);
     }

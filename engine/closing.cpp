@@ -77,8 +77,9 @@ void Uninstaller::quitKelmar() {
         numbers.push_back(std::to_string(application.process));
     }
     doing("Closing Kelmar");
-    const auto accepted = std::count_if(running.begin(), running.end(),
-                                        [](const RunningApplication& one) { return one.terminate(); });
+    const auto accepted =
+        std::count_if(running.begin(), running.end(),
+                      [](const RunningApplication& one) { return one.terminate(); });
     if (accepted != 0 && waitForExit(all, politeWait)) {
         log("Closed Kelmar.");
         return;
@@ -99,7 +100,8 @@ void Uninstaller::quitKelmar() {
 }
 
 void Uninstaller::stopServices() {
-    // launchctl(1): 3 is "no such process", 113 "could not find service": it is not loaded, which is the aim.
+    // launchctl(1): 3 is "no such process", 113 "could not find service": it is not loaded, which
+    // is the aim.
     constexpr std::int32_t noSuchProcess = 3;
     constexpr std::int32_t notFound = 113;
     if (paths.testRoot) {
@@ -146,8 +148,8 @@ void Uninstaller::stopProcesses(const std::vector<std::string>& folders) {
     std::vector<std::string> shown;
     std::transform(folders.begin(), folders.end(), std::back_inserter(shown),
                    [this](const std::string& folder) { return paths.display(folder); });
-    log("Stopped " + std::to_string(mine.size()) + " process(es) running from " + joined(shown, ", ") +
-        ".");
+    log("Stopped " + std::to_string(mine.size()) + " process(es) running from " +
+        joined(shown, ", ") + ".");
 }
 
 void Uninstaller::restartStoppedServices() {
@@ -155,7 +157,8 @@ void Uninstaller::restartStoppedServices() {
         if (!exists(service.plist)) {
             continue; // removed meanwhile: there is nothing to start
         }
-        const Shell::Result result = Shell::run(launchctl, {"bootstrap", userDomain(), service.plist});
+        const Shell::Result result =
+            Shell::run(launchctl, {"bootstrap", userDomain(), service.plist});
         log(result.status == 0
                 ? "Started " + service.label + " again."
                 : "Could not start " + service.label + " again: " + trimmed(result.output));

@@ -37,9 +37,8 @@ void Uninstaller::forgetReceipt(const std::string& identifier) {
 void Uninstaller::removeSettings() {
     const std::string identifier(legacyBundleIdentifier);
     const std::string preferences = paths.home + "/Library/Preferences/" + identifier + ".plist";
-    const bool hasPreferences =
-        std::find(inventory.settings.begin(), inventory.settings.end(), preferences) !=
-        inventory.settings.end();
+    const bool hasPreferences = std::find(inventory.settings.begin(), inventory.settings.end(),
+                                          preferences) != inventory.settings.end();
     if (!paths.testRoot && hasPreferences) {
         // Else the system's preferences cache, which still knows them, would write the file anew.
         Shell::run("/usr/bin/defaults", {"delete", identifier});
@@ -48,11 +47,13 @@ void Uninstaller::removeSettings() {
         remove(path);
     }
     for (const std::string& name : inventory.keychainItems) {
-        // Each run deletes one item; several may bear the name, and a keychain that misbehaves has a bound.
+        // Each run deletes one item; several may bear the name, and a keychain that misbehaves has
+        // a bound.
         constexpr int limit = 5;
         doing("Removing the keychain item " + name);
         for (int round = 0; round < limit; ++round) {
-            if (Shell::run("/usr/bin/security", {"delete-generic-password", "-s", name}).status != 0) {
+            if (Shell::run("/usr/bin/security", {"delete-generic-password", "-s", name}).status !=
+                0) {
                 break;
             }
         }

@@ -28,7 +28,8 @@ std::vector<std::string> programFolders(const Installation& installation) {
 }
 
 bool isStillRecorded(const std::string& identifier, const std::string& volume) {
-    return Shell::run("/usr/sbin/pkgutil", {"--pkg-info", identifier, "--volume", volume}).status == 0;
+    return Shell::run("/usr/sbin/pkgutil", {"--pkg-info", identifier, "--volume", volume}).status ==
+           0;
 }
 
 } // namespace
@@ -63,7 +64,8 @@ Uninstaller::Outcome Uninstaller::run(Emit callback) {
                 remove(path);
             }
             for (const std::string& identifier : mine->receipts) {
-                // The administrator's script may have taken it along; an unknown one can't be forgotten.
+                // The administrator's script may have taken it along; an unknown one can't be
+                // forgotten.
                 if (!paths.testRoot && isStillRecorded(identifier, paths.home)) {
                     forgetReceipt(identifier);
                 }

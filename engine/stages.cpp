@@ -5,7 +5,8 @@ namespace kelmar {
 std::vector<Uninstaller::TitledStage> Uninstaller::stages() const {
     const std::optional<Installation> mine = inventory.mine();
     std::vector<TitledStage> list;
-    if (!inventory.installations.empty() || !inventory.loadedServices.empty() || inventory.appRunning) {
+    if (!inventory.installations.empty() || !inventory.loadedServices.empty() ||
+        inventory.appRunning) {
         list.push_back({Stage::close, "Closing Kelmar and its background services"});
     }
     if (administratorArguments()) {

@@ -20,7 +20,9 @@ std::shared_ptr<AdministratorRunner> usualRunner(bool underTestRoot) {
 
 Uninstaller::Uninstaller(KelmarPaths where, Inventory found, std::set<std::string> chosenData,
                          std::shared_ptr<AdministratorRunner> runner)
-    : paths(std::move(where)), inventory(std::move(found)), selectedData(std::move(chosenData)),
+    : paths(std::move(where)),
+      inventory(std::move(found)),
+      selectedData(std::move(chosenData)),
       administrator(runner ? std::move(runner) : usualRunner(paths.testRoot.has_value())) {}
 
 } // namespace kelmar

@@ -19,19 +19,20 @@ namespace kelmar {
 
 class AdministratorRunner;
 
-/// The engine: removes the product. Made for one uninstall from a scan and a choice of data, asked for its
-/// `stages`, run once and dropped. `run` blocks its thread, for minutes if need be; nothing here throws.
+/// The engine: removes the product. Made for one uninstall from a scan and a choice of data, asked
+/// for its `stages`, run once and dropped. `run` blocks its thread, for minutes if need be; nothing
+/// here throws.
 ///
-/// The steps are public so that each can be tested by itself; a front end calls `stages` and `run`. Its
-/// administrator members are defined in the room admin/, where their subject lives.
+/// The steps are public so that each can be tested by itself; a front end calls `stages` and `run`.
+/// Its administrator members are defined in the room admin/, where their subject lives.
 class Uninstaller {
 public:
     /// The parts of a run, in the order in which they run.
     enum class Stage {
         close,         ///< quit the app, stop its services and processes, reset its permissions
         administrator, ///< what runs with an administrator's rights
-        account,       ///< the current user's installation, its records, settings and keychain items
-        data,          ///< the chosen data folders of the current user
+        account, ///< the current user's installation, its records, settings and keychain items
+        data,    ///< the chosen data folders of the current user
     };
 
     /// A stage begins.
@@ -39,28 +40,34 @@ public:
         Stage stage;
         friend bool operator==(const StageStarted&, const StageStarted&) = default;
     };
+
     /// A stage has ended; not sent for one that was cancelled.
     struct StageFinished {
         Stage stage;
         friend bool operator==(const StageFinished&, const StageFinished&) = default;
     };
+
     /// A step begins: a short line in the present tense, "Removing ~/Library/Kelmar".
     struct Doing {
         std::string text;
         friend bool operator==(const Doing&, const Doing&) = default;
     };
+
     /// A step has finished or failed: a line of the record.
     struct Log {
         std::string text;
         friend bool operator==(const Log&, const Log&) = default;
     };
+
     using Event = std::variant<StageStarted, StageFinished, Doing, Log>;
     using Emit = std::function<void(const Event&)>;
 
-    /// Something left over: an absolute path, or a label such as "Install record com.kelmar.pkg.app".
+    /// Something left over: an absolute path, or a label such as "Install record
+    /// com.kelmar.pkg.app".
     struct Failure {
         std::string path;
-        std::string reason; ///< a short clause without capital letter and full stop: "it is still there"
+        std::string
+            reason; ///< a short clause without capital letter and full stop: "it is still there"
         friend bool operator==(const Failure&, const Failure&) = default;
     };
 
@@ -69,10 +76,12 @@ public:
         std::vector<Failure> failures;
         friend bool operator==(const Finished&, const Finished&) = default;
     };
+
     /// The administrator's password was refused; nothing was removed.
     struct Cancelled {
         friend bool operator==(const Cancelled&, const Cancelled&) = default;
     };
+
     using Outcome = std::variant<Finished, Cancelled>;
 
     /// A stage of a run and what it is called on screen.
@@ -97,7 +106,8 @@ public:
     };
 
     /// `chosenData` holds the paths of the data folders to delete. Without a `runner` the script
-    /// runs as the current user under a test root, and behind the system's password prompt otherwise.
+    /// runs as the current user under a test root, and behind the system's password prompt
+    /// otherwise.
     Uninstaller(KelmarPaths where, Inventory found, std::set<std::string> chosenData,
                 std::shared_ptr<AdministratorRunner> runner = nullptr);
 
@@ -112,8 +122,9 @@ public:
     /// The stages that a run will have, in order; computed afresh at every call.
     [[nodiscard]] std::vector<TitledStage> stages() const;
 
-    /// The whole uninstall. `callback` is called during the run only, never twice at once: on this thread, or,
-    /// while this thread waits for the administrator's script, on the thread that follows its progress.
+    /// The whole uninstall. `callback` is called during the run only, never twice at once: on this
+    /// thread, or, while this thread waits for the administrator's script, on the thread that
+    /// follows its progress.
     Outcome run(Emit callback);
 
     // Closing. What could not be done is logged, never a failure: verification finds what is left.
@@ -127,12 +138,14 @@ public:
     /// Starts again what `stopServices` stopped, as far as it is still installed.
     void restartStoppedServices();
     static std::vector<pid_t> processes(const std::vector<std::string>& folders);
-    /// Whether all of `processes` have gone, now or within `seconds`. One of another user's still is there.
+    /// Whether all of `processes` have gone, now or within `seconds`. One of another user's still
+    /// is there.
     static bool waitForExit(const std::vector<pid_t>& processes, double seconds);
 
     // Removing.
 
-    /// Deletes a file, link or folder with everything in it; records a failure when it is still there then.
+    /// Deletes a file, link or folder with everything in it; records a failure when it is still
+    /// there then.
     void remove(const std::string& path);
     /// Makes the package installer forget an install record of the home volume.
     void forgetReceipt(const std::string& identifier);
@@ -143,7 +156,8 @@ public:
     /// Resets the privacy permissions that the system granted the app.
     void resetPermissions();
 
-    /// Scans again: what is still there, and why as far as it is known. Changes nothing, sends nothing.
+    /// Scans again: what is still there, and why as far as it is known. Changes nothing, sends
+    /// nothing.
     [[nodiscard]] std::vector<Failure> verify() const;
 
     // The administrator step, defined in admin/.
@@ -159,7 +173,9 @@ public:
 
 private:
     void doing(std::string text) const { emit(Doing{std::move(text)}); }
+
     void log(std::string text) const { emit(Log{std::move(text)}); }
+
     void handleStatusLine(std::string_view line);
 };
 

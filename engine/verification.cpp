@@ -10,7 +10,8 @@ namespace kelmar {
 namespace {
 
 /// The paths that should be gone and are not. Data that was to be kept is no leftover.
-std::vector<std::string> leftovers(const Inventory& after, const std::set<std::string>& selectedData) {
+std::vector<std::string> leftovers(const Inventory& after,
+                                   const std::set<std::string>& selectedData) {
     std::vector<std::string> paths;
     for (const Installation& installation : after.installations) {
         const std::vector<std::string> more = installation.paths();
@@ -30,9 +31,10 @@ std::vector<std::string> leftovers(const Inventory& after, const std::set<std::s
 std::vector<Uninstaller::Failure> Uninstaller::verify() const {
     const Inventory after = Scanner::scan(paths);
     std::vector<Failure> left;
-    std::copy_if(failures.begin(), failures.end(), std::back_inserter(left), [](const Failure& failure) {
-        return !failure.path.starts_with('/') || exists(failure.path);
-    });
+    std::copy_if(failures.begin(), failures.end(), std::back_inserter(left),
+                 [](const Failure& failure) {
+                     return !failure.path.starts_with('/') || exists(failure.path);
+                 });
     for (const std::string& path : leftovers(after, selectedData)) {
         const bool known = std::any_of(left.begin(), left.end(), [&path](const Failure& failure) {
             return failure.path == path;

@@ -4,9 +4,9 @@
 #include <algorithm>
 #include <array>
 #include <charconv>
+#include <climits>
 #include <fstream>
 #include <sstream>
-#include <climits>
 #include <string_view>
 
 #include <unistd.h>

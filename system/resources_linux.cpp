@@ -1,7 +1,6 @@
-#include "system/resources.hpp"
-
 #include "system/files.hpp"
 #include "system/processes.hpp"
+#include "system/resources.hpp"
 
 #include <unistd.h>
 

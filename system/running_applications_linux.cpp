@@ -1,7 +1,6 @@
-#include "system/running_applications.hpp"
-
 #include "system/executables_under.hpp"
 #include "system/processes.hpp"
+#include "system/running_applications.hpp"
 
 #include <csignal>
 
@@ -10,8 +9,8 @@
 namespace kelmar {
 
 bool RunningApplication::terminate() const {
-    // The user's own way to end a program, which it can catch to put its things in order; SIGTERM, the
-    // system's, is the next step and not this one.
+    // The user's own way to end a program, which it can catch to put its things in order; SIGTERM,
+    // the system's, is the next step and not this one.
     return ::kill(process, SIGINT) == 0;
 }
 

@@ -7,7 +7,8 @@
 namespace kelmar {
 
 SerialQueue::SerialQueue(std::string label)
-    : label_(std::move(label)), thread_([this] { work(); }) {}
+    : label_(std::move(label)),
+      thread_([this] { work(); }) {}
 
 SerialQueue::~SerialQueue() {
     {

@@ -9,8 +9,8 @@
 
 namespace kelmar {
 
-/// A thread that runs one job at a time: a repeating one on its timer, and others while their callers wait.
-/// What only its jobs touch needs no lock of its own.
+/// A thread that runs one job at a time: a repeating one on its timer, and others while their
+/// callers wait. What only its jobs touch needs no lock of its own.
 class SerialQueue {
 public:
     using Job = std::function<void()>;
@@ -25,11 +25,12 @@ public:
     /// Runs `job` at once and then every `period`, until `cancelTimer`. One timer at a time.
     void startTimer(std::chrono::milliseconds period, Job job);
 
-    /// After this no further run of the timer's job begins. May be called from any thread, jobs included.
+    /// After this no further run of the timer's job begins. May be called from any thread, jobs
+    /// included.
     void cancelTimer();
 
-    /// Runs `job` on the queue, after the one that may be running, and returns when it has ended. Not from
-    /// a job of the same queue.
+    /// Runs `job` on the queue, after the one that may be running, and returns when it has ended.
+    /// Not from a job of the same queue.
     void sync(const Job& job);
 
 private:

@@ -4,7 +4,8 @@
 
 namespace kelmar {
 
-/// Names the calling thread for debuggers and process listings, as far as the system has room for the name.
+/// Names the calling thread for debuggers and process listings, as far as the system has room for
+/// the name.
 void nameThisThread(const std::string& name);
 
 } // namespace kelmar
