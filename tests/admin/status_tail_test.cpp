@@ -43,6 +43,12 @@ protected:
                                 [&] { return lines.size() >= count; });
     }
 
+    /// While the tail runs; after its stop `lines` can be read as they are.
+    [[nodiscard]] Lines soFar() {
+        const std::scoped_lock lock(mutex);
+        return lines;
+    }
+
     /// Long enough for the tail to have read at least once more.
     static void letItRead() { std::this_thread::sleep_for(std::chrono::milliseconds(500)); }
 
@@ -69,7 +75,7 @@ TEST_F(Tail, ALineInTwoPiecesIsHandedOutOnceWhole) {
     tail.start();
     append("DOI");
     letItRead();
-    EXPECT_TRUE(lines.empty());
+    EXPECT_EQ(soFar(), Lines{});
     append("NG /a\n");
     EXPECT_TRUE(waitFor(1));
     tail.stop();
@@ -89,7 +95,7 @@ TEST_F(Tail, ALastLineWithoutItsEndComesWithStop) {
     tail.start();
     EXPECT_TRUE(waitFor(1));
     letItRead();
-    EXPECT_EQ(lines, Lines{"a"});
+    EXPECT_EQ(soFar(), Lines{"a"});
     tail.stop();
     EXPECT_EQ(lines, (Lines{"a", "b"}));
     EXPECT_FALSE(tail.sawDone());
