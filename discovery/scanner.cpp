@@ -1,5 +1,6 @@
 #include "discovery/scanner.hpp"
 
+#include "discovery/app_identity.hpp"
 #include "discovery/identifiers.hpp"
 #include "system/files.hpp"
 #include "system/property_list.hpp"
@@ -68,12 +69,6 @@ std::vector<std::string> keychainItems() {
         }
     }
     return found;
-}
-
-bool appRunning(const KelmarPaths& paths) {
-    const ApplicationIdentity app{std::string(legacyBundleIdentifier),
-                                  {paths.app(Scope::allUsers), paths.app(Scope::me)}};
-    return !runningApplications(app).empty();
 }
 
 /// The entries of `folder` whose names begin with the former bundle identifier, sorted by name.
@@ -156,7 +151,7 @@ Inventory scan(const KelmarPaths& paths) {
         }
     }
     if (!paths.testRoot) {
-        inventory.appRunning = appRunning(paths);
+        inventory.appRunning = !runningApplications(appIdentity(paths)).empty();
         inventory.loadedServices = loadedServices();
         inventory.keychainItems = keychainItems();
     }

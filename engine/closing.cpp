@@ -1,4 +1,4 @@
-#include "discovery/identifiers.hpp"
+#include "discovery/app_identity.hpp"
 #include "engine/launchctl.hpp"
 #include "engine/uninstaller.hpp"
 #include "system/executables_under.hpp"
@@ -65,8 +65,7 @@ void Uninstaller::quitKelmar() {
     if (paths.testRoot) {
         return;
     }
-    const std::vector<RunningApplication> running = runningApplications(
-        {std::string(legacyBundleIdentifier), {paths.app(Scope::allUsers), paths.app(Scope::me)}});
+    const std::vector<RunningApplication> running = runningApplications(appIdentity(paths));
     if (running.empty()) {
         return;
     }

@@ -81,7 +81,7 @@ TEST_F(Script, AnyOtherFolderIsNotSharedData) {
     const auto before = test::contents(folder / "t/system");
     for (const std::string& path :
          {std::string("/"), std::string("/etc"), shared("mine"), shared("CDN/.."),
-          shared("../Shared/@Kelmar/CDN"), shared("cdn"), shared("CDN/"), shared("/CDN"),
+          shared("../@Kelmar/CDN"), shared("cdn"), shared("CDN/"), shared("/CDN"),
           shared("CDN/part-0"), shared(""), shared("."), system("/Library/Other"),
           home("/Kelmar/Store"), std::string("/Users/Shared/@Kelmar/CDN")}) {
         std::ofstream(status).close();

@@ -152,6 +152,23 @@ TEST_F(UninstallOnAPretendMac, WithNothingThereAsksForNoPassword) {
     EXPECT_FALSE(isThere("/box/asked-for-password"));
 }
 
+TEST_F(UninstallOnAPretendMac, UnderATestRootNothingIsAskedOfTheSystemAndNoPassword) {
+    installEverything();
+    const auto before = test::contents(box->outside("/Users/ann"));
+    box->answerPasswordWith("touch /box/asked-for-password\n");
+    test::MacTree(box->outside("/box/test")).everything();
+    box->chownToUser("/box/test");
+    test::Program program = box->uninstaller({"--uninstall", "--delete-data"});
+    program.environment["KELMAR_UNINSTALLER_TEST_ROOT"] = "/box/test";
+    const ProgramEnd end = program.run();
+    EXPECT_EQ(end.status, 0) << end.output;
+    EXPECT_EQ(box->asked(), Lines{});
+    EXPECT_FALSE(isThere("/box/asked-for-password"));
+    EXPECT_FALSE(isThere("/box/test/system/Applications/Kelmar.app"));
+    EXPECT_TRUE(isThere("/Applications/Kelmar.app"));
+    EXPECT_EQ(test::contents(box->outside("/Users/ann")), before);
+}
+
 TEST_F(UninstallOnAPretendMac, ARefusedPromptStartsTheServicesAgain) {
     installEverything();
     box->answerPasswordWith("exit 1\n");
