@@ -174,11 +174,16 @@ void Box::letUserBecomeRoot() const {
     }
 }
 
-Sleeper& Box::start(const std::string& path, uid_t asUser, const std::vector<int>& ignoring) const {
-    sleepers_.push_back(std::make_unique<Sleeper>(
-        outside(path), [ignore = Sleeper::ignoring(ignoring), become = Sleeper::asUser(asUser)] {
+Sleeper& Box::start(const std::string& path, uid_t asUser, const std::vector<int>& ignoring,
+                    const Sleeper::Preparation& first) const {
+    sleepers_.push_back(
+        std::make_unique<Sleeper>(outside(path), [ignore = Sleeper::ignoring(ignoring),
+                                                  become = Sleeper::asUser(asUser), first] {
             ignore();
             become();
+            if (first) {
+                first();
+            }
         }));
     sleepers_.back()->reapInBackground();
     return *sleepers_.back();

@@ -58,7 +58,8 @@ public:
 
     /// Starts a copy of sleep(1) at a path in the box; it ends with the box.
     Sleeper& start(const std::string& path, uid_t asUser = user,
-                   const std::vector<int>& ignoring = {}) const;
+                   const std::vector<int>& ignoring = {},
+                   const Sleeper::Preparation& first = {}) const;
 
     /// Runs a shell script in the box as root, in the background, until the box ends.
     void runInBackground(const std::string& script) const;

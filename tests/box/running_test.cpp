@@ -1,6 +1,15 @@
 #include "tests/box/uninstall_fixture.hpp"
 
+#include <atomic>
+#include <chrono>
 #include <csignal>
+#include <functional>
+#include <thread>
+
+#include <sys/mman.h>
+#include <sys/prctl.h>
+#include <sys/wait.h>
+#include <unistd.h>
 
 namespace kelmar {
 namespace {
@@ -40,7 +49,63 @@ TEST_F(Running, AnAppThatDoesNotAnswerIsTerminated) {
     EXPECT_EQ(linesOf(uninstall("--keep-data").output).at(1),
               "    Closed Kelmar (it did not answer the quit request).");
     EXPECT_TRUE(app.hasEnded());
-    EXPECT_TRUE(helper.hasEnded()) << "what it forked goes with it";
+    EXPECT_TRUE(helper.hasEnded());
+}
+
+/// Makes this process the parent of what its children leave behind, and reaps one of these when it
+/// ends.
+class Orphan {
+public:
+    Orphan() { ::prctl(PR_SET_CHILD_SUBREAPER, 1); }
+
+    Orphan(const Orphan&) = delete;
+    Orphan& operator=(const Orphan&) = delete;
+
+    ~Orphan() {
+        if (*process_ != 0 && !hasEnded()) {
+            ::kill(*process_, SIGKILL); // only when the test has failed
+        }
+        over_ = true;
+        reaper_.join();
+        ::munmap(process_, sizeof(pid_t));
+    }
+
+    /// Forks, in the child of a test: parent and child go on to be the program.
+    [[nodiscard]] std::function<void()> fork() const {
+        return [process = process_] {
+            const pid_t child = ::fork();
+            if (child > 0) {
+                *process = child;
+            }
+        };
+    }
+
+    [[nodiscard]] bool hasEnded() const { return *process_ != 0 && ::kill(*process_, 0) != 0; }
+
+private:
+    void reap() const {
+        while (!over_ && (*process_ == 0 || ::waitpid(*process_, nullptr, WNOHANG) != *process_)) {
+            std::this_thread::sleep_for(
+                std::chrono::milliseconds(5)); // it is ours when its parent has ended
+        }
+    }
+
+    // Shared with the child that forks.
+    pid_t* process_ = static_cast<pid_t*>(
+        ::mmap(nullptr, sizeof(pid_t), PROT_READ | PROT_WRITE, MAP_SHARED | MAP_ANONYMOUS, -1, 0));
+    std::atomic<bool> over_{false};
+    std::thread reaper_{[this] { reap(); }};
+};
+
+TEST_F(Running, WhatTheAppForkedIsClosedWithIt) {
+    installForMe();
+    Orphan forked;
+    std::filesystem::remove(box->outside(myApp));
+    test::Sleeper& app = box->start(myApp, test::Box::user, {}, forked.fork());
+    box->chownToUser("/Users/ann/Applications");
+    EXPECT_EQ(linesOf(uninstall("--keep-data").output).at(1), "    Closed Kelmar.");
+    EXPECT_TRUE(app.hasEnded());
+    EXPECT_TRUE(forked.hasEnded());
 }
 
 TEST_F(Running, AnAppThatIgnoresEverySignalIsForcedToClose) {
