@@ -77,8 +77,8 @@ TEST_F(Faults, KilledAnywhereASecondRunEndsWithNothingLeft) {
     const auto start = std::chrono::steady_clock::now();
     EXPECT_EQ(keepData().run().status, 0);
     const auto whole = std::chrono::steady_clock::now() - start;
-    // NOLINTNEXTLINE(cert-msc32-c,cert-msc51-cpp): the same points every time, to see a failure
-    // again
+    // The same points every time, to see a failure again:
+    // NOLINTNEXTLINE(cert-msc32-c,cert-msc51-cpp)
     std::mt19937 random(20261120);
     int cut = 0;
     for (int round = 0; round < 50; ++round) {
