@@ -151,34 +151,38 @@ enter() { # BASE FOLDER, which is BASE or begins with BASE/
 # Opens the status file for appending, as descriptor 3, and sets `user` to its owner. It lies in a folder of an
 # ordinary user, who may swap it for a link to a file of the system at any moment. So it gets a second name in
 # a new folder of this process's own: ln(1) names what is there without following a link, nobody else can
-# change that name, and what it names is looked at before it is opened.
+# change that name, and what it names is looked at before it is opened. The new folder may be swapped as well
+# before it is entered: it must be where it was made, and as it was made, and only the name given here goes.
 open_status() {
-    local folder=${status%/*}/ private description owner
-    private=.kelmar-$$-$RANDOM$RANDOM
+    local folder=${status%/*}/ private=.kelmar-$$-$RANDOM$RANDOM physical description owner
     case $(describe "${status%/*}") in
     d*) owner=$(owner_of "${status%/*}") ;;
     *) die 1 'the status file is not a plain file of the user' ;;
     esac
-    if ! { cd -P -- "$folder" && mkdir -m 700 "./$private" && cd -P -- "./$private"; } 2>/dev/null ||
-        [ "$(owner_of .)" != "$(id -u)" ]; then
+    if ! { cd -P -- "$folder" && physical=$(here) && mkdir -m 700 "./$private" && cd -P -- "./$private"; } \
+        2>/dev/null || [ "$(here)" != "$physical/$private" ]; then
         die 1 'the status file cannot be looked at'
     fi
-    ln -P -- "$status" ./status 2>/dev/null
-    description=$(describe ./status)
-    user=${description##* }
-    case $description in
-    -*' 2 '"$owner") ;;
-    -*' 2 '"$(owner_of "${home:-/dev/null}/.")") ;;
-    *) user='' ;;
+    case $(describe .) in
+    drwx------*' '"$(id -u)") ;;
+    *) die 1 'the status file cannot be looked at' ;;
     esac
-    # Nothing is done for root, who needs no help, but on a test folder.
-    if [ "$user" = 0 ] && [ -z "$test_root" ]; then
-        user=''
+    user=''
+    if ln -P -- "$status" ./status 2>/dev/null; then
+        description=$(describe ./status)
+        case $description in
+        -*' 2 '"$owner") user=${description##* } ;;
+        -*' 2 '"$(owner_of "${home:-/dev/null}/.")") user=${description##* } ;;
+        esac
+        # Nothing is done for root, who needs no help, but on a test folder.
+        if [ "$user" = 0 ] && [ -z "$test_root" ]; then
+            user=''
+        fi
+        if [ -n "$user" ]; then
+            { exec 3>>./status; } 2>/dev/null || user=''
+        fi
+        rm -f ./status
     fi
-    if [ -n "$user" ]; then
-        { exec 3>>./status; } 2>/dev/null || user=''
-    fi
-    rm -f ./status
     cd -P -- "$folder" 2>/dev/null && rmdir "./$private"
     cd /
     [ -n "$user" ] || die 1 'the status file is not a plain file of the user'

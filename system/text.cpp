@@ -12,8 +12,7 @@ std::string joined(const std::vector<std::string>& words, std::string_view separ
     return text;
 }
 
-std::string trimmed(std::string_view text) {
-    constexpr std::string_view blank = " \t\r\n\v\f";
+std::string trimmed(std::string_view text, std::string_view blank) {
     text.remove_prefix(std::min(text.find_first_not_of(blank), text.size()));
     text.remove_suffix(text.size() - (text.find_last_not_of(blank) + 1));
     return std::string(text);

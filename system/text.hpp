@@ -9,8 +9,9 @@ namespace kelmar {
 /// `words` with `separator` between each two of them.
 std::string joined(const std::vector<std::string>& words, std::string_view separator);
 
-/// `text` without the blanks and line ends at both of its ends.
-std::string trimmed(std::string_view text);
+/// `text` without the characters of `blank` at both of its ends: blanks and line ends, if none are
+/// named.
+std::string trimmed(std::string_view text, std::string_view blank = " \t\r\n\v\f");
 
 /// The lines of `text`, without their line feeds and without the empty ones.
 std::vector<std::string> nonEmptyLines(std::string_view text);

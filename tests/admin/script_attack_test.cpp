@@ -215,6 +215,46 @@ TEST_F(ScriptUnderAttack, AStatusFileSwappedForALinkIsNotWrittenThrough) {
         << "nothing but the status file and the link are left in its folder";
 }
 
+TEST_F(ScriptUnderAttack, TheFolderThatItLooksInIsNotSwappedForAnotherEither) {
+    if (::getuid() != 0) {
+        GTEST_SKIP() << "only root can run the script for another user";
+    }
+    // A folder of root's in which a file bears the very name that the script uses and takes away
+    // again.
+    tree.file(bait + "/root's/status", "precious");
+    std::filesystem::permissions(bait + "/root's", std::filesystem::perms(0700));
+    before = test::contents(bait);
+    const std::string place = std::filesystem::path(status).parent_path();
+    giveAway(place);
+    giveAway(status);
+    std::atomic<bool> enough{false};
+    std::atomic<long> swaps{0};
+    std::thread attacker([&] {
+        while (!enough) {
+            std::error_code ignored;
+            for (const auto& entry : std::filesystem::directory_iterator(place, ignored)) {
+                const std::string path = entry.path();
+                if (path.find("/.kelmar-") != std::string::npos && !path.ends_with(".away")) {
+                    std::filesystem::rename(path, path + ".away", ignored);
+                    std::filesystem::create_symlink(bait + "/root's", path, ignored);
+                    swaps += ignored ? 0 : 1;
+                }
+            }
+        }
+    });
+    for (int round = 0; round < rounds; ++round) {
+        static_cast<void>(runWith(
+            {"--status", status, "--shared-data", shared("nothing"), "--test-root", system("")}));
+        if (test::contents(bait) != before) {
+            break; // told of below, once the attacker has stopped
+        }
+    }
+    enough = true;
+    attacker.join();
+    EXPECT_EQ(test::contents(bait), before);
+    EXPECT_GT(swaps, 0);
+}
+
 TEST_F(ScriptUnderAttack, WithoutATestRootNothingIsDoneForRoot) {
     if (::getuid() != 0) {
         GTEST_SKIP() << "what root is refused can only be seen as root";
