@@ -51,7 +51,7 @@ TEST_F(BadInput, ARootThatCannotBeReadHoldsNothing) {
     tree.everything();
     std::filesystem::permissions(folder / "t", std::filesystem::perms::none);
     test::Program program = test::uninstaller({"--scan"}, folder / "t");
-    program.user = 65534;
+    program.runAs(65534, folder / "program");
     const ProgramEnd end = program.run();
     EXPECT_EQ(end.output, nothing);
     EXPECT_EQ(end.status, 0);

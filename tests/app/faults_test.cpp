@@ -227,7 +227,7 @@ TEST_F(Faults, AFolderWithoutWritePermissionIsNamedAndTheRestGoes) {
     keptForAll = test::contents(tree.paths().dataRoot(Scope::allUsers));
     fs::permissions(tree.paths().home + "/Library/LaunchAgents", fs::perms(0555));
     test::Program program = keepData();
-    program.user = 65534;
+    program.runAs(65534, folder / "program");
     const test::ProgramEnd end = program.run();
     EXPECT_EQ(end.status, 1);
     const std::string path = tree.paths().agents(Scope::me)[0];

@@ -130,7 +130,7 @@ TEST_F(ScanListing, WhatCannotBeMeasuredHasAQuestionMark) {
     std::filesystem::permissions(tree.paths().dataRoot(Scope::me) + "/Store",
                                  std::filesystem::perms::none);
     test::Program program = test::uninstaller({"--scan"}, folder / "t");
-    program.user = 65534;
+    program.runAs(65534, folder / "program");
     EXPECT_EQ(program.run().output, "Data in ~/Kelmar:\n"
                                     "    Store        ?\n");
 }

@@ -6,6 +6,7 @@
 #include <cerrno>
 #include <csignal>
 #include <cstdlib>
+#include <filesystem>
 #include <stdexcept>
 #include <system_error>
 #include <utility>
@@ -113,6 +114,18 @@ ProgramEnd Program::run() const {
     ::waitpid(child, &status, 0);
     end.status = WIFSIGNALED(status) ? -WTERMSIG(status) : WEXITSTATUS(status);
     return end;
+}
+
+void Program::runAs(uid_t other, const std::string& place) {
+    namespace fs = std::filesystem;
+    const fs::path built = path;
+    fs::create_directories(place);
+    for (const fs::path& file : {built, built.parent_path() / "uninstall-as-admin.sh"}) {
+        fs::copy_file(file, fs::path(place) / file.filename(),
+                      fs::copy_options::overwrite_existing);
+    }
+    path = fs::path(place) / built.filename();
+    user = other;
 }
 
 Program uninstaller(std::vector<std::string> arguments,

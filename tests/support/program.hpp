@@ -34,6 +34,10 @@ struct Program {
     /// Called with each piece of standard output as it comes, with the time since the start.
     std::function<void(const std::string&, std::chrono::milliseconds)> onOutput;
 
+    /// Lets another user run a copy of the program, with its script, from `place`: the build may
+    /// lie in a folder that only its owner may enter.
+    void runAs(uid_t other, const std::string& place);
+
     [[nodiscard]] ProgramEnd run() const;
 };
 
