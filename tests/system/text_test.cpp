@@ -1,0 +1,68 @@
+#include "system/text.hpp"
+
+#include <gtest/gtest.h>
+
+#include <string>
+#include <vector>
+
+namespace kelmar {
+namespace {
+
+using Words = std::vector<std::string>;
+
+TEST(Joined, PutsTheSeparatorBetweenEachTwo) {
+    EXPECT_EQ(joined({}, ", "), "");
+    EXPECT_EQ(joined({"a"}, ", "), "a");
+    EXPECT_EQ(joined({"a", "b"}, ", "), "a, b");
+    EXPECT_EQ(joined({"a", "b", "c"}, ", "), "a, b, c");
+}
+
+TEST(Joined, KeepsEmptyAndRepeatedWords) {
+    EXPECT_EQ(joined({"", "", ""}, "-"), "--");
+    EXPECT_EQ(joined({"a", "a", "a"}, ""), "aaa");
+}
+
+TEST(Listed, IsASentencesList) {
+    EXPECT_EQ(listed({}), "");
+    EXPECT_EQ(listed({"a"}), "a");
+    EXPECT_EQ(listed({"a", "b"}), "a and b");
+    EXPECT_EQ(listed({"a", "b", "c"}), "a, b, and c");
+    EXPECT_EQ(listed({"a", "b", "c", "d"}), "a, b, c, and d");
+}
+
+TEST(Listed, TakesWordsAsTheyAre) {
+    EXPECT_EQ(listed({"salt and pepper", "x, y"}), "salt and pepper and x, y");
+    EXPECT_EQ(listed({"a", "a", "a"}), "a, a, and a");
+}
+
+TEST(Trimmed, LosesBlanksAndLineEndsAtBothEnds) {
+    EXPECT_EQ(trimmed(" \t\r\n\v\ftext \t\r\n\v\f"), "text");
+    EXPECT_EQ(trimmed("text"), "text");
+    EXPECT_EQ(trimmed("\na b\n\nc "), "a b\n\nc");
+}
+
+TEST(Trimmed, OfNothingElseIsEmpty) {
+    EXPECT_EQ(trimmed(""), "");
+    EXPECT_EQ(trimmed(" "), "");
+    EXPECT_EQ(trimmed(" \n\t "), "");
+}
+
+TEST(Trimmed, LosesOnlyTheCharactersThatAreNamed) {
+    EXPECT_EQ(trimmed("--a-b--", "-"), "a-b");
+    EXPECT_EQ(trimmed(" a ", "-"), " a ");
+}
+
+TEST(NonEmptyLines, AreTheLinesWithSomethingInThem) {
+    EXPECT_EQ(nonEmptyLines(""), Words{});
+    EXPECT_EQ(nonEmptyLines("\n\n"), Words{});
+    EXPECT_EQ(nonEmptyLines("a"), Words{"a"});
+    EXPECT_EQ(nonEmptyLines("a\n"), Words{"a"});
+    EXPECT_EQ(nonEmptyLines("\na\n\n\nb"), (Words{"a", "b"}));
+}
+
+TEST(NonEmptyLines, KeepTheirBlanks) {
+    EXPECT_EQ(nonEmptyLines(" a \n \n\tb\r\n"), (Words{" a ", " ", "\tb\r"}));
+}
+
+} // namespace
+} // namespace kelmar
