@@ -1,0 +1,20 @@
+#include "ui/sections.hpp"
+#include "ui/size_text.hpp"
+
+namespace kelmar {
+
+Confirmation confirmation(const UninstallerModel::Published& published) {
+    const std::optional<std::int64_t> bytes = published.bytes(published.selectedFolders());
+    Confirmation alert;
+    alert.title =
+        bytes ? "Delete " + sizeText(bytes) + " of Kelmar data?" : "Delete your Kelmar data?";
+    alert.message = "Your cases, imported documents, exports and downloaded AI models will be "
+                    "deleted for good. You can't undo this.";
+    Button goOn{"Uninstall and Delete Data", Action::uninstall};
+    goOn.destructive = true;
+    // Return as well as Escape lead out: a second press of Return deletes nothing.
+    alert.buttons = {goOn, {"Cancel", Action::dismissConfirmation, ButtonKey::both}};
+    return alert;
+}
+
+} // namespace kelmar
