@@ -1,12 +1,35 @@
 #include "app/window_application.hpp"
+#include "system/resources.hpp"
 #include "system/standard_streams.hpp"
+
+#include <optional>
+#include <string>
+
+#include <dlfcn.h>
 
 namespace kelmar {
 
+namespace {
+
+/// The window is a module beside the executable, so that the command line neither needs nor waits
+/// for a toolkit. Null when it is not there, or when what it needs is not.
+void (*windowOfModule())() {
+    const std::optional<std::string> path = resourcePath("kelmar-window.so");
+    void* const module = path ? ::dlopen(path->c_str(), RTLD_NOW | RTLD_LOCAL) : nullptr;
+    void* const entry = module != nullptr ? ::dlsym(module, "kelmarRunWindow") : nullptr;
+    return reinterpret_cast<void (*)()>(entry); // dlsym(3): what POSIX wants to be possible
+}
+
+} // namespace
+
 int runWindowApplication() {
-    printErrorLine(
-        "Kelmar Uninstaller has no window on this system. Use --scan to list what Kelmar has "
-        "here, or --help for all options.");
+    if (void (*const run)() = windowOfModule()) {
+        run();
+        return 0;
+    }
+    printErrorLine("Kelmar Uninstaller can't open its window here: that takes kelmar-window.so "
+                   "beside the program, and Qt 6. Use --scan to list what Kelmar has here, or "
+                   "--help for all options.");
     return 2;
 }
 

@@ -1,0 +1,123 @@
+#pragma once
+
+#include "tests/ui/qt/widgets.hpp"
+#include "ui/qt/page_widget.hpp"
+#include "ui/qt/text_label.hpp"
+
+#include <gtest/gtest.h>
+
+#include <QTest>
+#include <memory>
+#include <string>
+#include <vector>
+
+namespace kelmar::test {
+
+/// A page in a window of its usual size; what its controls ask for is written down.
+class PageInAWindow : public testing::Test {
+protected:
+    PageInAWindow() {
+        window.setFixedSize(600, 596);
+        window.show();
+        QApplication::setActiveWindow(&window);
+    }
+
+    void render(const Page& shown) {
+        window.render(shown);
+        settle();
+    }
+
+    /// Lets what was put off happen: layouts, pictures, timers of no time.
+    static void settle() { QTest::qWait(20); }
+
+    template <class Widget>
+    [[nodiscard]] Widget* seen(const QString& text) const {
+        return test::seen<Widget>(window, text);
+    }
+
+    template <class Widget>
+    [[nodiscard]] Widget* firstSeen() const {
+        for (Widget* const widget : widgets<Widget>(window)) {
+            if (widget->isVisible()) {
+                return widget;
+            }
+        }
+        return nullptr;
+    }
+
+    std::vector<std::string> asked;
+    PageWidget window{WindowActions{
+        [this](Action action) { asked.push_back("action " + std::to_string(int(action))); },
+        [this](bool all) { asked.emplace_back(all ? "delete all" : "delete none"); },
+        [this](const std::string& path, bool selected) {
+            asked.push_back((selected ? "select " : "leave ") + path);
+        }}};
+};
+
+inline std::string asking(Action action) {
+    return "action " + std::to_string(static_cast<int>(action));
+}
+
+/// A page on which there is a choice.
+inline Page readyPage() {
+    Page page;
+    page.header = {"Uninstall Kelmar", "Removes the Kelmar app."};
+    ReadyContent content;
+    content.found = {{"Found on this Mac"},
+                     {{FoundRow::Image{"/Applications/Kelmar.app"}, "Kelmar 4.2", "/Applications"},
+                      {FoundRow::Symbol{"gearshape.2"}, "Background services", "Running now"}}};
+    DataSection data;
+    data.title = {"Your data"};
+    data.label = "Delete Kelmar data";
+    data.on = true;
+    data.total = {5000, "Delete Kelmar data"};
+    data.line = "You can't undo this.";
+    data.folders = {"Hide folders", Action::toggleFolders};
+    data.lists = {{"In your home folder, ~/Kelmar",
+                   {{"/h/Kelmar/Store", "Store", "Imported documents", true, {4000, "Store"}},
+                    {"/h/Kelmar/Logs", "Logs", "Service logs", false, {1000, "Logs"}}},
+                   "Also in ~/Kelmar: notes.txt."}};
+    content.data = data;
+    page.content = content;
+    page.footer.notes = {{"lock.fill", "Asks for an administrator's password", "Why."}};
+    page.footer.buttons = {{"Quit", Action::quit, ButtonKey::cancelAction},
+                           {"Uninstall", Action::uninstallClicked, ButtonKey::defaultAction}};
+    return page;
+}
+
+inline Page workingPage(const LogLines& log = {}, bool unfolded = false) {
+    Page page;
+    page.header = {"Uninstalling Kelmar…", "A few minutes."};
+    page.content = WorkingContent{{{{"checkmark.circle.fill", Tint::green, "Done"}, "Closing"},
+                                   {{std::nullopt, Tint::secondary, "In progress"}, "Removing"},
+                                   {{"circle", Tint::secondary, "Waiting"}, "Deleting"}},
+                                  "Removing ~/Library/Kelmar",
+                                  {{"Details", Action::toggleDetails}, unfolded, log}};
+    page.footer.busy = {"Please wait."};
+    page.footer.buttons = {{"Quit", Action::quit, ButtonKey::defaultAction, false}};
+    return page;
+}
+
+inline Page finishedPage(const LogLines& log = {}, bool unfolded = false) {
+    Page page;
+    page.header = {"Kelmar wasn't completely removed", "Restart."};
+    page.content =
+        FinishedContent{{{"checkmark.circle.fill", Tint::green, "Gone."}},
+                        ProblemsSection{{"Not removed"}, {{"~/Kelmar", "it is still there"}}},
+                        {{"Details", Action::toggleDetails}, unfolded, log}};
+    page.footer.buttons = {{"Try Again", Action::scan},
+                           {"Quit", Action::quit, ButtonKey::defaultAction}};
+    return page;
+}
+
+inline Page confirmingPage() {
+    Page page = readyPage();
+    Button goOn{"Uninstall and Delete Data", Action::uninstall};
+    goOn.destructive = true;
+    page.confirmation = {"Delete 5 KB of Kelmar data?",
+                         "For good.",
+                         {goOn, {"Cancel", Action::dismissConfirmation, ButtonKey::both}}};
+    return page;
+}
+
+} // namespace kelmar::test

@@ -1,0 +1,29 @@
+#include "ui/qt/about_panel.hpp"
+
+#include "ui/qt/symbol_label.hpp"
+#include "ui/qt/text_label.hpp"
+
+#include <QVBoxLayout>
+
+namespace kelmar {
+
+AboutPanel::AboutPanel(QWidget* parent) : QDialog(parent) {
+    setWindowTitle("About Kelmar Uninstaller");
+    setAttribute(Qt::WA_DeleteOnClose);
+    setAttribute(Qt::WA_QuitOnClose, false);
+    auto* const column = new QVBoxLayout(this);
+    column->setContentsMargins(48, 24, 48, 24);
+    column->setSpacing(8);
+    auto* const icon = new SymbolLabel(64);
+    icon->showPicture("kelmar-uninstaller");
+    auto* const name = new TextLabel(TextStyle::heading, TextLabel::Tone::primary);
+    name->showText("Kelmar Uninstaller");
+    auto* const version = new TextLabel(TextStyle::callout, TextLabel::Tone::secondary);
+    version->showText("Version " KELMAR_VERSION);
+    column->addWidget(icon, 0, Qt::AlignHCenter);
+    column->addWidget(name, 0, Qt::AlignHCenter);
+    column->addWidget(version, 0, Qt::AlignHCenter);
+    layout()->setSizeConstraint(QLayout::SetFixedSize);
+}
+
+} // namespace kelmar

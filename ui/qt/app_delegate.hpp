@@ -1,0 +1,57 @@
+#pragma once
+
+#include "ui/menu.hpp"
+#include "ui/qt/main_window.hpp"
+#include "ui/qt/qt_dispatcher.hpp"
+#include "ui/uninstaller_view.hpp"
+
+#include <QBasicTimer>
+#include <QObject>
+#include <QPointer>
+#include <memory>
+
+class QSessionManager;
+
+namespace kelmar {
+
+class AboutPanel;
+
+/// The application: one model, one window, and the rule that nothing ends while a run is going on.
+class AppDelegate : public QObject {
+public:
+    /// Starts nothing yet.
+    AppDelegate();
+    AppDelegate(KelmarPaths paths, UninstallerModel::Sources sources);
+    ~AppDelegate() override;
+
+    /// Opens the window and starts the first scan.
+    void applicationDidFinishLaunching();
+
+    /// Whether the application may end now; it says nothing when it may not.
+    [[nodiscard]] bool applicationShouldTerminate() const { return !model->isWorking(); }
+
+    [[nodiscard]] bool windowShouldClose() const { return !model->isWorking(); }
+
+    const std::shared_ptr<UninstallerModel> model;
+
+    /// Null until `applicationDidFinishLaunching`.
+    [[nodiscard]] MainWindow* window() const { return window_.get(); }
+
+    [[nodiscard]] UninstallerView& view() { return view_; }
+
+protected:
+    void timerEvent(QTimerEvent* event) override;
+
+private:
+    void terminate();
+    void perform(MenuAction action);
+    void endOfSession(QSessionManager& manager);
+    void renderSoon();
+
+    UninstallerView view_;
+    std::unique_ptr<MainWindow> window_;
+    QPointer<AboutPanel> about_;
+    QBasicTimer render_; ///< runs while the page is out of date: fires in the next turn
+};
+
+} // namespace kelmar

@@ -1,0 +1,56 @@
+#include "ui/qt/button_row.hpp"
+
+#include "ui/qt/focus_ring.hpp"
+
+#include <utility>
+
+namespace kelmar {
+
+namespace {
+
+QHBoxLayout* rowOf(QWidget& widget) {
+    auto* const row = new QHBoxLayout(&widget);
+    row->setContentsMargins(0, 0, 0, 0);
+    row->setSpacing(12 - 2 * focusRoom);
+    return row;
+}
+
+bool belongs(ButtonKey key, const Button& button) {
+    return button.key == key || button.key == ButtonKey::both;
+}
+
+} // namespace
+
+ButtonRow::ButtonRow(std::function<void(Action)> perform, QWidget* parent)
+    : QWidget(parent),
+      perform_(std::move(perform)),
+      buttons_(*rowOf(*this)) {}
+
+void ButtonRow::render(const std::vector<Button>& buttons) {
+    buttons_.render(buttons, [this](std::size_t) {
+        auto* const button = new PushButton(PushButton::Size::large);
+        connect(button, &QAbstractButton::clicked, this,
+                [this, button] { perform_(button->shown().action); });
+        return button;
+    });
+}
+
+void ButtonRow::press(ButtonKey key) {
+    for (PushButton* const button : buttons_.rows()) {
+        if (button->isEnabled() && belongs(key, button->shown())) {
+            button->click();
+            return;
+        }
+    }
+}
+
+PushButton* ButtonRow::safest() const {
+    for (PushButton* const button : buttons_.rows()) {
+        if (belongs(ButtonKey::cancelAction, button->shown())) {
+            return button;
+        }
+    }
+    return buttons_.rows().empty() ? nullptr : buttons_.rows().back();
+}
+
+} // namespace kelmar

@@ -1,0 +1,31 @@
+#pragma once
+
+#include "ui/page.hpp"
+#include "ui/qt/push_button.hpp"
+#include "ui/qt/row_list.hpp"
+
+#include <QHBoxLayout>
+#include <functional>
+#include <vector>
+
+namespace kelmar {
+
+/// The buttons of the footer or of an alert, in a row.
+class ButtonRow : public QWidget {
+public:
+    explicit ButtonRow(std::function<void(Action)> perform, QWidget* parent = nullptr);
+
+    void render(const std::vector<Button>& buttons);
+
+    /// Presses the enabled button that `key` belongs to, if there is one.
+    void press(ButtonKey key);
+
+    /// The button that leads out, else the last one.
+    [[nodiscard]] PushButton* safest() const;
+
+private:
+    std::function<void(Action)> perform_;
+    RowList<PushButton> buttons_;
+};
+
+} // namespace kelmar

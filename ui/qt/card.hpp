@@ -1,0 +1,34 @@
+#pragma once
+
+#include <QFrame>
+#include <QVBoxLayout>
+
+namespace kelmar {
+
+/// A rounded box on the page, with rows inside it, one below the other.
+class Card : public QFrame {
+public:
+    explicit Card(QWidget* parent = nullptr);
+
+    [[nodiscard]] QVBoxLayout& rows() { return *rows_; }
+
+protected:
+    void paintEvent(QPaintEvent* event) override;
+
+private:
+    QVBoxLayout* rows_;
+};
+
+/// A line across, from `indent` units after the leading edge on.
+class Hairline : public QFrame {
+public:
+    explicit Hairline(int indent = 0, QWidget* parent = nullptr);
+
+protected:
+    void paintEvent(QPaintEvent* event) override;
+
+private:
+    int indent_;
+};
+
+} // namespace kelmar

@@ -1,0 +1,28 @@
+#pragma once
+
+#include "ui/page.hpp"
+
+#include <QPushButton>
+
+namespace kelmar {
+
+/// A text with a chevron that unfolds what is below it.
+class Disclosure : public QPushButton {
+public:
+    explicit Disclosure(QWidget* parent = nullptr);
+
+    void render(const Button& button, bool unfolded);
+
+    [[nodiscard]] QSize sizeHint() const override;
+
+    [[nodiscard]] QSize minimumSizeHint() const override { return sizeHint(); }
+
+protected:
+    void paintEvent(QPaintEvent* event) override;
+    void keyPressEvent(QKeyEvent* event) override;
+
+private:
+    bool unfolded_ = false;
+};
+
+} // namespace kelmar

@@ -1,0 +1,51 @@
+#pragma once
+
+#include "ui/page.hpp"
+#include "ui/qt/row_list.hpp"
+
+#include <QWidget>
+#include <functional>
+#include <string>
+
+class QVBoxLayout;
+
+namespace kelmar {
+
+class CheckBox;
+class SizeLabel;
+class TextLabel;
+
+/// Asks for one folder to be chosen or left out.
+using SelectFolder = std::function<void(const std::string& path, bool selected)>;
+
+class FolderRowWidget : public QWidget {
+public:
+    explicit FolderRowWidget(const SelectFolder& select, QWidget* parent = nullptr);
+
+    void render(const FolderRow& row);
+
+    [[nodiscard]] CheckBox& checkBox() const { return *check_; }
+
+private:
+    std::string path_;
+    CheckBox* check_;
+    TextLabel* summary_;
+    SizeLabel* size_;
+};
+
+/// The folders of one data root.
+class FolderListWidget : public QWidget {
+public:
+    explicit FolderListWidget(SelectFolder select, QWidget* parent = nullptr);
+
+    void render(const FolderList& list);
+
+private:
+    SelectFolder select_;
+    TextLabel* heading_;
+    TextLabel* others_;
+    QVBoxLayout* folders_;
+    RowList<FolderRowWidget> rows_;
+};
+
+} // namespace kelmar

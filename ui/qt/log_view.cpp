@@ -1,0 +1,107 @@
+#include "ui/qt/log_view.hpp"
+
+#include "ui/qt/colours.hpp"
+#include "ui/qt/fonts.hpp"
+#include "ui/qt/slim_scroll_bar.hpp"
+
+#include <QGuiApplication>
+#include <QScrollBar>
+#include <QTimerEvent>
+#include <algorithm>
+
+namespace kelmar {
+
+namespace {
+
+/// Lines that are laid out well within the 16 milliseconds of one picture.
+constexpr std::size_t portion = 400;
+
+} // namespace
+
+LogView::LogView(QWidget* parent) : QPlainTextEdit(parent) {
+    setReadOnly(true);
+    setUndoRedoEnabled(false); // what can be undone is kept a second time
+    setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
+    setFont(kelmar::font(TextStyle::record));
+    setWordWrapMode(QTextOption::WrapAtWordBoundaryOrAnywhere);
+    setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    setVerticalScrollBar(new SlimScrollBar);
+    setFrameShape(QFrame::NoFrame);
+    setTabChangesFocus(true);
+    setViewportMargins(4, 4, 0, 4);
+    document()->setDocumentMargin(6);
+    setMinimumHeight(160);
+    applyColours();
+}
+
+void LogView::applyColours() {
+    QPalette colours = palette();
+    const QColor card =
+        Colours(parentWidget() != nullptr ? parentWidget()->palette() : QGuiApplication::palette())
+            .card;
+    if (colours.color(QPalette::Base) != card) {
+        colours.setColor(QPalette::Base, card);
+        setPalette(colours);
+    }
+}
+
+void LogView::changeEvent(QEvent* event) {
+    QPlainTextEdit::changeEvent(event);
+    if (event->type() == QEvent::PaletteChange) {
+        applyColours();
+    }
+}
+
+void LogView::render(const LogLines& log) {
+    if (!log.continues(log_) || log.size() < shown_) {
+        clear();
+        shown_ = 0;
+    }
+    log_ = log;
+    if (!isComplete() && !more_.isActive()) {
+        addPortion();
+    }
+}
+
+void LogView::addPortion() {
+    const std::size_t end = std::min(log_.size(), shown_ + portion);
+    QString text;
+    for (; shown_ != end; ++shown_) {
+        if (shown_ != 0) {
+            text += '\n';
+        }
+        text += QString::fromStdString(log_[shown_]);
+    }
+    QScrollBar& bar = *verticalScrollBar();
+    const int place = bar.value();
+    const bool atEnd = place == bar.maximum();
+    const QTextCursor selection = textCursor();
+    const int anchor = selection.anchor();
+    const int position = selection.position();
+    QTextCursor last(document());
+    last.movePosition(QTextCursor::End);
+    last.insertText(text);
+    if (QTextCursor moved = textCursor();
+        moved.anchor() != anchor || moved.position() != position) {
+        // A cursor at the very end goes along with what is added there.
+        moved.setPosition(anchor);
+        moved.setPosition(position, QTextCursor::KeepAnchor);
+        setTextCursor(moved);
+    }
+    bar.setValue(atEnd ? bar.maximum() : place);
+    if (isComplete()) {
+        more_.stop();
+    } else if (!more_.isActive()) {
+        more_.start(0, this);
+    }
+}
+
+void LogView::timerEvent(QTimerEvent* event) {
+    if (event->timerId() == more_.timerId()) {
+        addPortion();
+    } else {
+        QPlainTextEdit::timerEvent(event);
+    }
+}
+
+} // namespace kelmar

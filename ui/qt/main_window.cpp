@@ -1,0 +1,54 @@
+#include "ui/qt/main_window.hpp"
+
+#include "ui/qt/menu_bar.hpp"
+#include "ui/qt/page_widget.hpp"
+#include "ui/qt/symbols.hpp"
+
+#include <QCloseEvent>
+#include <QScreen>
+#include <utility>
+
+namespace kelmar {
+
+namespace {
+
+constexpr QSize contentSize(600, 620);
+
+QIcon icon() {
+    QIcon icon;
+    for (const int side : {16, 32, 64}) {
+        icon.addPixmap(picture("kelmar-uninstaller", side, 1));
+    }
+    return icon;
+}
+
+} // namespace
+
+MainWindow::MainWindow(const WindowActions& actions, const std::function<void(MenuAction)>& menu,
+                       std::function<bool()> shouldClose)
+    : shouldClose_(std::move(shouldClose)),
+      page_(new PageWidget(actions)) {
+    setWindowTitle("Kelmar Uninstaller");
+    setWindowIcon(icon());
+    setWindowFlags(Qt::Window | Qt::CustomizeWindowHint | Qt::WindowTitleHint |
+                   Qt::WindowSystemMenuHint | Qt::WindowMinimizeButtonHint |
+                   Qt::WindowCloseButtonHint);
+    setContextMenuPolicy(Qt::NoContextMenu);
+    setCentralWidget(page_);
+    fillMenuBar(*menuBar(), mainMenu(), menu);
+    setFixedSize(contentSize);
+}
+
+void MainWindow::open() {
+    const QRect room = screen()->availableGeometry();
+    move(room.center() - QPoint(contentSize.width() / 2, contentSize.height() / 2));
+    show();
+    raise();
+    activateWindow();
+}
+
+void MainWindow::closeEvent(QCloseEvent* event) {
+    event->setAccepted(shouldClose_());
+}
+
+} // namespace kelmar

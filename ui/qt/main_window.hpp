@@ -1,0 +1,33 @@
+#pragma once
+
+#include "ui/menu.hpp"
+#include "ui/qt/window_actions.hpp"
+
+#include <QMainWindow>
+#include <functional>
+
+namespace kelmar {
+
+class PageWidget;
+
+/// The one window: 600 by 620, with the menu bar and the page in it.
+class MainWindow : public QMainWindow {
+public:
+    /// `shouldClose` is asked before the window closes, whoever wants it to.
+    MainWindow(const WindowActions& actions, const std::function<void(MenuAction)>& menu,
+               std::function<bool()> shouldClose);
+
+    [[nodiscard]] PageWidget& page() const { return *page_; }
+
+    /// Shows the window in the middle of the screen and asks for the keyboard.
+    void open();
+
+protected:
+    void closeEvent(QCloseEvent* event) override;
+
+private:
+    std::function<bool()> shouldClose_;
+    PageWidget* page_;
+};
+
+} // namespace kelmar

@@ -1,0 +1,42 @@
+#include "ui/qt/note_row.hpp"
+
+#include "ui/qt/symbol_label.hpp"
+
+#include <QHBoxLayout>
+
+namespace kelmar {
+
+NoteRow::NoteRow(int size, TextStyle style, TextLabel::Tone tone, QWidget* parent)
+    : QWidget(parent),
+      size_(size),
+      symbol_(new SymbolLabel(size)),
+      text_(new TextLabel(style, tone)) {
+    auto* const row = new QHBoxLayout(this);
+    row->setContentsMargins(0, 0, 0, 0);
+    row->setSpacing(8);
+    row->addWidget(symbol_, 0, Qt::AlignTop);
+    row->addWidget(text_, 1, Qt::AlignVCenter);
+}
+
+void NoteRow::showNote(const std::string& symbol, Tint tint, const std::string& text) {
+    symbol_->showSymbol(symbol, tint, size_);
+    text_->showText(text);
+}
+
+void NoteRow::render(const FooterNote& note) {
+    showNote(note.symbol, Tint::secondary, note.text);
+    // As text and not as markup; it wraps only as markup.
+    const QString help = QString::fromStdString(note.help);
+    setToolTip(help.toHtmlEscaped());
+    text_->setAccessibleDescription(help);
+}
+
+void NoteRow::render(const SummaryRow& row) {
+    showNote(row.symbol, row.tint, row.text);
+}
+
+void NoteRow::render(const Callout& callout) {
+    showNote(callout.symbol, callout.tint, callout.text);
+}
+
+} // namespace kelmar

@@ -1,0 +1,30 @@
+#pragma once
+
+#include "ui/page.hpp"
+#include "ui/qt/text_label.hpp"
+
+#include <QWidget>
+
+namespace kelmar {
+
+class SymbolLabel;
+
+/// A symbol beside a text: a footer's note, a line of the summary, what a callout says.
+class NoteRow : public QWidget {
+public:
+    /// `size` is the symbol's, in units.
+    NoteRow(int size, TextStyle style, TextLabel::Tone tone, QWidget* parent = nullptr);
+
+    void render(const FooterNote& note);
+    void render(const SummaryRow& row);
+    void render(const Callout& callout);
+
+private:
+    void showNote(const std::string& symbol, Tint tint, const std::string& text);
+
+    int size_;
+    SymbolLabel* symbol_;
+    TextLabel* text_;
+};
+
+} // namespace kelmar

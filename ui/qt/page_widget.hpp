@@ -1,0 +1,43 @@
+#pragma once
+
+#include "ui/page.hpp"
+#include "ui/qt/window_actions.hpp"
+
+#include <QWidget>
+#include <cstddef>
+#include <optional>
+
+namespace kelmar {
+
+class AlertOverlay;
+class ContentColumn;
+class FooterWidget;
+class HeaderWidget;
+
+/// Shows pages, each by changing what the one before it left different.
+class PageWidget : public QWidget {
+public:
+    explicit PageWidget(const WindowActions& actions, QWidget* parent = nullptr);
+
+    void render(const Page& page);
+
+    /// How often `render` has changed anything.
+    [[nodiscard]] std::size_t changes() const { return changes_; }
+
+protected:
+    void resizeEvent(QResizeEvent* event) override;
+
+private:
+    void press(ButtonKey key);
+    void orderFocus();
+
+    QWidget* below_; ///< all but the alert
+    HeaderWidget* header_;
+    ContentColumn* content_;
+    FooterWidget* footer_;
+    AlertOverlay* alert_;
+    std::optional<Page> shown_;
+    std::size_t changes_ = 0;
+};
+
+} // namespace kelmar

@@ -1,0 +1,46 @@
+#pragma once
+
+#include "ui/page.hpp"
+#include "ui/qt/note_row.hpp"
+#include "ui/qt/row_list.hpp"
+#include "ui/qt/section.hpp"
+
+#include <vector>
+
+namespace kelmar {
+
+/// What a finished run did and kept.
+class SummaryWidget : public Section {
+public:
+    explicit SummaryWidget(QWidget* parent = nullptr);
+
+    void render(const std::vector<SummaryRow>& rows);
+
+private:
+    QVBoxLayout* inside_;
+    RowList<NoteRow> rows_;
+};
+
+class ProblemRowWidget : public QWidget {
+public:
+    explicit ProblemRowWidget(bool first, QWidget* parent = nullptr);
+
+    void render(const ProblemRow& row);
+
+private:
+    TextLabel* path_;
+    TextLabel* reason_;
+};
+
+/// What could not be removed.
+class ProblemsWidget : public Section {
+public:
+    explicit ProblemsWidget(QWidget* parent = nullptr);
+
+    void render(const ProblemsSection& section);
+
+private:
+    RowList<ProblemRowWidget> rows_;
+};
+
+} // namespace kelmar

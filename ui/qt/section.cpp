@@ -1,0 +1,26 @@
+#include "ui/qt/section.hpp"
+
+#include "ui/qt/accessibility.hpp"
+#include "ui/qt/text_label.hpp"
+
+namespace kelmar {
+
+Section::Section(QWidget* parent)
+    : QWidget(parent),
+      column_(new QVBoxLayout(this)),
+      title_(new TextLabel(TextStyle::heading, TextLabel::Tone::primary)),
+      card_(new Card) {
+    column_->setContentsMargins(0, 0, 0, 0);
+    column_->setSpacing(8);
+    column_->addWidget(title_);
+    column_->addWidget(card_);
+    title_->hide();
+    setAccessibleRole(*title_, QAccessible::Heading);
+}
+
+void Section::renderTitle(const SectionTitle& title) {
+    title_->showText(title.text);
+    title_->show();
+}
+
+} // namespace kelmar

@@ -1,0 +1,31 @@
+#include "ui/qt/slim_scroll_bar.hpp"
+
+#include "ui/qt/colours.hpp"
+
+#include <QPainter>
+#include <QStyle>
+#include <QStyleOptionSlider>
+
+namespace kelmar {
+
+SlimScrollBar::SlimScrollBar(QWidget* parent) : QScrollBar(Qt::Vertical, parent) {
+    setFixedWidth(thickness);
+    setAttribute(Qt::WA_OpaquePaintEvent, false);
+}
+
+void SlimScrollBar::paintEvent(QPaintEvent* /*event*/) {
+    // Where the handle can be grabbed is the style's to say.
+    QStyleOptionSlider option;
+    initStyleOption(&option);
+    const QRect handle =
+        style()->subControlRect(QStyle::CC_ScrollBar, &option, QStyle::SC_ScrollBarSlider, this);
+    QColor colour = Colours(palette()).text;
+    colour.setAlphaF(isSliderDown() ? 0.55F : underMouse() ? 0.45F : 0.3F);
+    QPainter painter(this);
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setPen(Qt::NoPen);
+    painter.setBrush(colour);
+    painter.drawRoundedRect(QRectF(handle).adjusted(2, 1, -2, -1), 3, 3);
+}
+
+} // namespace kelmar
