@@ -4,7 +4,6 @@
 #include "ui/qt/page_widget.hpp"
 
 #include <QApplication>
-#include <QSessionManager>
 #include <utility>
 
 namespace kelmar {
@@ -44,13 +43,13 @@ void AppDelegate::applicationDidFinishLaunching() {
     model->scan();
 }
 
-void AppDelegate::terminate() {
+void AppDelegate::terminate() const {
     if (applicationShouldTerminate()) {
         QCoreApplication::exit(0);
     }
 }
 
-void AppDelegate::endOfSession(QSessionManager& manager) {
+void AppDelegate::endOfSession(QSessionManager& manager) const {
     manager.setRestartHint(QSessionManager::RestartNever);
     if (!applicationShouldTerminate()) {
         manager.cancel();

@@ -8,9 +8,8 @@
 #include <QBasicTimer>
 #include <QObject>
 #include <QPointer>
+#include <QSessionManager>
 #include <memory>
-
-class QSessionManager;
 
 namespace kelmar {
 
@@ -22,6 +21,8 @@ public:
     /// Starts nothing yet.
     AppDelegate();
     AppDelegate(KelmarPaths paths, UninstallerModel::Sources sources);
+    AppDelegate(const AppDelegate&) = delete;
+    AppDelegate& operator=(const AppDelegate&) = delete;
     ~AppDelegate() override;
 
     /// Opens the window and starts the first scan.
@@ -43,9 +44,9 @@ protected:
     void timerEvent(QTimerEvent* event) override;
 
 private:
-    void terminate();
+    void terminate() const;
     void perform(MenuAction action);
-    void endOfSession(QSessionManager& manager);
+    void endOfSession(QSessionManager& manager) const;
     void renderSoon();
 
     UninstallerView view_;

@@ -7,6 +7,7 @@
 
 #include <QPainter>
 #include <algorithm>
+#include <cmath>
 
 namespace kelmar {
 
@@ -37,7 +38,8 @@ void CheckBox::paintEvent(QPaintEvent* /*event*/) {
     const Colours colours(palette());
     QPainter painter(this);
     painter.setRenderHint(QPainter::Antialiasing);
-    const QRectF square(focusRoom + 0.5, (height() - box) / 2 + 0.5, box - 1, box - 1);
+    const QRectF square(focusRoom + 0.5, std::floor((height() - box) / 2.0) + 0.5, box - 1,
+                        box - 1);
     const bool on = isChecked();
     painter.setBrush(on ? (isDown() ? colours.accent.darker(118) : colours.accent)
                         : (isDown() ? colours.controlPressed : colours.control));

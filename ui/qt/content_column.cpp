@@ -99,9 +99,7 @@ void ContentColumn::renderBlocks(const ReadyContent& content) {
     }
     block<FoundSectionWidget>(Place::found).render(content.found);
     if (content.data) {
-        block<DataSectionWidget>(Place::data, actions_.setDeleteAllData, actions_.setSelected,
-                                 actions_.perform)
-            .render(*content.data);
+        block<DataSectionWidget>(Place::data, actions_).render(*content.data);
     }
 }
 

@@ -6,12 +6,13 @@
 #include "ui/qt/text_label.hpp"
 #include "ui/qt/toggle_switch.hpp"
 
+#include <utility>
+
 namespace kelmar {
 
-DataSectionWidget::DataSectionWidget(const DeleteAll& deleteAll, const SelectFolder& select,
-                                     const Perform& perform, QWidget* parent)
+DataSectionWidget::DataSectionWidget(WindowActions actions, QWidget* parent)
     : Section(parent),
-      select_(select),
+      actions_(std::move(actions)),
       label_(new TextLabel(TextStyle::body, TextLabel::Tone::primary)),
       total_(new SizeLabel),
       switch_(new ToggleSwitch),
@@ -44,9 +45,10 @@ DataSectionWidget::DataSectionWidget(const DeleteAll& deleteAll, const SelectFol
     card().rows().addLayout(listed_);
 
     label_->nameFor(switch_);
-    connect(switch_, &QAbstractButton::clicked, this, [deleteAll](bool on) { deleteAll(on); });
+    connect(switch_, &QAbstractButton::clicked, this,
+            [this](bool on) { actions_.setDeleteAllData(on); });
     connect(folders_, &QAbstractButton::clicked, this,
-            [this, perform] { perform(folders_->shown().action); });
+            [this] { actions_.perform(folders_->shown().action); });
 }
 
 void DataSectionWidget::render(const DataSection& section) {
@@ -57,7 +59,8 @@ void DataSectionWidget::render(const DataSection& section) {
     switch_->setAccessibleDescription(QString::fromStdString(section.line));
     line_->showText(section.line);
     folders_->render(section.folders);
-    lists_.render(section.lists, [this](std::size_t) { return new FolderListWidget(select_); });
+    lists_.render(section.lists,
+                  [this](std::size_t) { return new FolderListWidget(actions_.setSelected); });
 }
 
 } // namespace kelmar

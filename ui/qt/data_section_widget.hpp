@@ -3,8 +3,7 @@
 #include "ui/page.hpp"
 #include "ui/qt/folder_list_widget.hpp"
 #include "ui/qt/section.hpp"
-
-#include <functional>
+#include "ui/qt/window_actions.hpp"
 
 namespace kelmar {
 
@@ -14,16 +13,12 @@ class ToggleSwitch;
 /// The choice of data: one switch for all, and the single folders below it.
 class DataSectionWidget : public Section {
 public:
-    using DeleteAll = std::function<void(bool)>;
-    using Perform = std::function<void(Action)>;
-
-    DataSectionWidget(const DeleteAll& deleteAll, const SelectFolder& select,
-                      const Perform& perform, QWidget* parent = nullptr);
+    explicit DataSectionWidget(WindowActions actions, QWidget* parent = nullptr);
 
     void render(const DataSection& section);
 
 private:
-    SelectFolder select_;
+    WindowActions actions_;
     TextLabel* label_;
     SizeLabel* total_;
     ToggleSwitch* switch_;

@@ -9,7 +9,7 @@ namespace {
 
 QFont scaled(QFont font, double factor) {
     if (font.pixelSize() > 0) {
-        font.setPixelSize(static_cast<int>(font.pixelSize() * factor + 0.5));
+        font.setPixelSize(qRound(font.pixelSize() * factor));
     } else {
         font.setPointSizeF(font.pointSizeF() * factor);
     }

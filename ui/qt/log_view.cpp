@@ -30,8 +30,16 @@ LogView::LogView(QWidget* parent) : QPlainTextEdit(parent) {
     setTabChangesFocus(true);
     setViewportMargins(4, 4, 0, 4);
     document()->setDocumentMargin(6);
-    setMinimumHeight(160);
     applyColours();
+    const QScrollBar* const bar = verticalScrollBar();
+    connect(bar, &QScrollBar::valueChanged, this,
+            [this, bar](int value) { following_ = value == bar->maximum(); });
+    // The range changes with what is added, and with the height.
+    connect(bar, &QScrollBar::rangeChanged, this, [this](int /*minimum*/, int maximum) {
+        if (following_) {
+            verticalScrollBar()->setValue(maximum);
+        }
+    });
 }
 
 void LogView::applyColours() {
@@ -74,7 +82,7 @@ void LogView::addPortion() {
     }
     QScrollBar& bar = *verticalScrollBar();
     const int place = bar.value();
-    const bool atEnd = place == bar.maximum();
+    const bool following = following_;
     const QTextCursor selection = textCursor();
     const int anchor = selection.anchor();
     const int position = selection.position();
@@ -88,7 +96,8 @@ void LogView::addPortion() {
         moved.setPosition(position, QTextCursor::KeepAnchor);
         setTextCursor(moved);
     }
-    bar.setValue(atEnd ? bar.maximum() : place);
+    bar.setValue(following ? bar.maximum() : place);
+    following_ = following;
     if (isComplete()) {
         more_.stop();
     } else if (!more_.isActive()) {

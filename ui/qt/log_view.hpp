@@ -17,6 +17,11 @@ public:
 
     void render(const LogLines& log);
 
+    /// As low as is of use; its place gives it what height there is.
+    [[nodiscard]] QSize sizeHint() const override { return {200, leastHeight}; }
+
+    [[nodiscard]] QSize minimumSizeHint() const override { return {100, leastHeight}; }
+
     /// Whether all of the record is in the view.
     [[nodiscard]] bool isComplete() const { return shown_ == log_.size(); }
 
@@ -25,11 +30,14 @@ protected:
     void changeEvent(QEvent* event) override;
 
 private:
+    static constexpr int leastHeight = 112;
+
     void addPortion();
     void applyColours();
 
     LogLines log_;
     std::size_t shown_ = 0;
+    bool following_ = true; ///< the end is being read, and stays in sight
     QBasicTimer more_;
 };
 

@@ -46,9 +46,7 @@ PageWidget::PageWidget(const WindowActions& actions, QWidget* parent)
     column->addWidget(content_, 1);
     column->addWidget(new Hairline);
     column->addWidget(footer_);
-    // Until a key moves it the focus is nowhere in particular.
     setFocusPolicy(Qt::ClickFocus);
-    setFocus();
     const auto shortcut = [this](Qt::Key key, ButtonKey meaning) {
         auto* const made = new QShortcut(key, this);
         made->setAutoRepeat(false); // a key that is held down answers one question

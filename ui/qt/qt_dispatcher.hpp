@@ -14,6 +14,8 @@ namespace kelmar {
 class QtDispatcher : public Dispatcher, private QObject {
 public:
     QtDispatcher() = default;
+    QtDispatcher(const QtDispatcher&) = delete;
+    QtDispatcher& operator=(const QtDispatcher&) = delete;
     ~QtDispatcher() override;
 
     /// Jobs run in the order in which they were posted, but no more at a time than leave the event

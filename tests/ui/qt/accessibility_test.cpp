@@ -81,6 +81,7 @@ TEST_F(Accessibility, TitlesAreHeadings) {
     render(test::readyPage());
     EXPECT_EQ(role(seen<TextLabel>("Uninstall Kelmar")), QAccessible::Heading);
     EXPECT_EQ(role(seen<TextLabel>("Your data")), QAccessible::Heading);
+    EXPECT_EQ(name(seen<TextLabel>("Your data")), "Your data");
 }
 
 TEST_F(Accessibility, TheQuestionIsAnAlert) {

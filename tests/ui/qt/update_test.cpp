@@ -170,6 +170,31 @@ TEST_F(Update, StaysAtTheEndOfTheDetailsForWhoReadsThere) {
     EXPECT_FALSE(view.textCursor().hasSelection());
 }
 
+TEST_F(Update, StaysAtTheEndOfTheDetailsWhenTheirHeightChanges) {
+    LogLines log = lines(100);
+    render(test::workingPage(log, true));
+    LogView& view = *firstSeen<LogView>();
+    QScrollBar& bar = *view.verticalScrollBar();
+    Page page = test::finishedPage(log, true);
+    auto& rows = std::get<FinishedContent>(page.content).problems->rows;
+    rows.resize(5, rows.front());
+    render(page);
+    EXPECT_EQ(bar.value(), bar.maximum());
+    render(test::workingPage(log, true));
+    EXPECT_EQ(bar.value(), bar.maximum());
+    bar.setValue(10);
+    render(page);
+    EXPECT_EQ(bar.value(), 10);
+}
+
+TEST_F(Update, FitsTheDetailsOfFourStagesOntoThePage) {
+    Page page = test::workingPage(lines(100), true);
+    auto& stages = std::get<WorkingContent>(page.content).stages;
+    stages.resize(4, stages.back());
+    render(page);
+    EXPECT_EQ(scroll().maximum(), 0);
+}
+
 TEST_F(Update, MovesNoHeadlineFromPhaseToPhase) {
     render(test::readyPage());
     const QPoint line = window.findChild<QScrollArea*>()->mapTo(&window, QPoint());
