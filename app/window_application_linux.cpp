@@ -12,10 +12,11 @@ namespace kelmar {
 namespace {
 
 /// The window is a module beside the executable, so that the command line neither needs nor waits
-/// for a toolkit. Null when it is not there, or when what it needs is not.
+/// for a toolkit. Null when it is not there, or when what it needs is not. The module itself is
+/// linked to be resolved at once (ld(1), -z now); the libraries below it need not be.
 void (*windowOfModule())() {
     const std::optional<std::string> path = resourcePath("kelmar-window.so");
-    void* const module = path ? ::dlopen(path->c_str(), RTLD_NOW | RTLD_LOCAL) : nullptr;
+    void* const module = path ? ::dlopen(path->c_str(), RTLD_LAZY | RTLD_LOCAL) : nullptr;
     void* const entry = module != nullptr ? ::dlsym(module, "kelmarRunWindow") : nullptr;
     return reinterpret_cast<void (*)()>(entry); // dlsym(3): what POSIX wants to be possible
 }

@@ -79,8 +79,8 @@ void AlertOverlay::dismiss() {
     }
     hide();
     page_.setEnabled(true);
-    if (focus_ != nullptr && focus_->isVisible()) {
-        focus_->setFocus();
+    if (QWidget* const before = focus_.data(); before != nullptr && before->isVisible()) {
+        before->setFocus();
     }
 }
 

@@ -53,6 +53,7 @@ FoundSectionWidget::FoundSectionWidget(QWidget* parent) : Section(parent), rows_
 
 void FoundSectionWidget::render(const FoundSection& section) {
     renderTitle(section.title);
+    card().setVisible(!section.rows.empty());
     rows_.render(section.rows, [](std::size_t index) { return new FoundRowWidget(index == 0); });
 }
 

@@ -6,6 +6,7 @@
 
 #include <QCloseEvent>
 #include <QScreen>
+#include <QTimer>
 #include <utility>
 
 namespace kelmar {
@@ -16,9 +17,7 @@ constexpr QSize contentSize(600, 620);
 
 QIcon icon() {
     QIcon icon;
-    for (const int side : {16, 32, 64}) {
-        icon.addPixmap(picture("kelmar-uninstaller", side, 1));
-    }
+    icon.addPixmap(picture("kelmar-uninstaller", 64, 1));
     return icon;
 }
 
@@ -29,7 +28,6 @@ MainWindow::MainWindow(const WindowActions& actions, const std::function<void(Me
     : shouldClose_(std::move(shouldClose)),
       page_(new PageWidget(actions)) {
     setWindowTitle("Kelmar Uninstaller");
-    setWindowIcon(icon());
     setWindowFlags(Qt::Window | Qt::CustomizeWindowHint | Qt::WindowTitleHint |
                    Qt::WindowSystemMenuHint | Qt::WindowMinimizeButtonHint |
                    Qt::WindowCloseButtonHint);
@@ -47,6 +45,8 @@ void MainWindow::open() {
     show();
     raise();
     activateWindow();
+    // Desktops show it in other places than the window, which need not wait for it.
+    QTimer::singleShot(0, this, [this] { setWindowIcon(icon()); });
 }
 
 void MainWindow::closeEvent(QCloseEvent* event) {

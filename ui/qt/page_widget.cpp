@@ -9,6 +9,7 @@
 
 #include <QShortcut>
 #include <QVBoxLayout>
+#include <utility>
 
 namespace kelmar {
 
@@ -31,13 +32,13 @@ void collect(QLayoutItem* item, QList<QWidget*>& controls) {
 
 } // namespace
 
-PageWidget::PageWidget(const WindowActions& actions, QWidget* parent)
+PageWidget::PageWidget(WindowActions actions, QWidget* parent)
     : QWidget(parent),
+      actions_(std::move(actions)),
       below_(new QWidget(this)),
       header_(new HeaderWidget),
-      content_(new ContentColumn(actions)),
-      footer_(new FooterWidget(actions.perform)),
-      alert_(new AlertOverlay(*below_, actions.perform, this)) {
+      content_(new ContentColumn(actions_)),
+      footer_(new FooterWidget(actions_.perform)) {
     auto* const column = new QVBoxLayout(below_);
     column->setContentsMargins(0, 0, 0, 0);
     column->setSpacing(0);
@@ -58,7 +59,8 @@ PageWidget::PageWidget(const WindowActions& actions, QWidget* parent)
 }
 
 void PageWidget::press(ButtonKey key) {
-    (alert_->isVisible() ? alert_->buttons() : footer_->buttons()).press(key);
+    const bool asking = alert_ != nullptr && alert_->isVisible();
+    (asking ? alert_->buttons() : footer_->buttons()).press(key);
 }
 
 void PageWidget::render(const Page& page) {
@@ -76,13 +78,21 @@ void PageWidget::render(const Page& page) {
     if (!shown_ || shown_->footer != page.footer) {
         footer_->render(page.footer);
     }
-    if (page.confirmation) {
-        alert_->render(*page.confirmation);
-    } else {
-        alert_->dismiss();
-    }
+    renderAlert(page.confirmation);
     shown_ = page;
     orderFocus();
+}
+
+void PageWidget::renderAlert(const std::optional<Confirmation>& confirmation) {
+    if (confirmation) {
+        if (alert_ == nullptr) {
+            alert_ = new AlertOverlay(*below_, actions_.perform, this);
+            alert_->setGeometry(rect());
+        }
+        alert_->render(*confirmation);
+    } else if (alert_ != nullptr) {
+        alert_->dismiss();
+    }
 }
 
 void PageWidget::orderFocus() {
@@ -99,7 +109,9 @@ void PageWidget::orderFocus() {
 void PageWidget::resizeEvent(QResizeEvent* event) {
     QWidget::resizeEvent(event);
     below_->setGeometry(rect());
-    alert_->setGeometry(rect());
+    if (alert_ != nullptr) {
+        alert_->setGeometry(rect());
+    }
 }
 
 } // namespace kelmar

@@ -17,7 +17,7 @@ class HeaderWidget;
 /// Shows pages, each by changing what the one before it left different.
 class PageWidget : public QWidget {
 public:
-    explicit PageWidget(const WindowActions& actions, QWidget* parent = nullptr);
+    explicit PageWidget(WindowActions actions, QWidget* parent = nullptr);
 
     void render(const Page& page);
 
@@ -29,13 +29,15 @@ protected:
 
 private:
     void press(ButtonKey key);
+    void renderAlert(const std::optional<Confirmation>& confirmation);
     void orderFocus();
 
+    WindowActions actions_;
     QWidget* below_; ///< all but the alert
     HeaderWidget* header_;
     ContentColumn* content_;
     FooterWidget* footer_;
-    AlertOverlay* alert_;
+    AlertOverlay* alert_ = nullptr; ///< made for the first question
     std::optional<Page> shown_;
     std::size_t changes_ = 0;
 };

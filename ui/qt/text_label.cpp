@@ -63,6 +63,7 @@ void TextLabel::showText(const std::string& text) {
     const QString wanted = QString::fromStdString(text);
     if (wanted != this->text()) {
         setText(wanted);
+        measuredWidth_ = -1;
         updateGeometry();
         explainElision();
     }
@@ -93,9 +94,13 @@ int TextLabel::heightForWidth(int width) const {
     if (overflow_ != Overflow::wrap) {
         return -1;
     }
-    QTextLayout layout(drawn(), font());
-    const auto height = static_cast<int>(std::ceil(layOut(layout, width)));
-    return std::max(height, QFontMetrics(font()).height());
+    if (width != measuredWidth_) {
+        QTextLayout layout(drawn(), font());
+        const auto height = static_cast<int>(std::ceil(layOut(layout, width)));
+        measuredHeight_ = std::max(height, QFontMetrics(font()).height());
+        measuredWidth_ = width;
+    }
+    return measuredHeight_;
 }
 
 void TextLabel::paintEvent(QPaintEvent* /*event*/) {
@@ -118,6 +123,13 @@ void TextLabel::paintEvent(QPaintEvent* /*event*/) {
 void TextLabel::resizeEvent(QResizeEvent* event) {
     QLabel::resizeEvent(event);
     explainElision();
+}
+
+void TextLabel::changeEvent(QEvent* event) {
+    if (event->type() == QEvent::FontChange) {
+        measuredWidth_ = -1;
+    }
+    QLabel::changeEvent(event);
 }
 
 void TextLabel::explainElision() {

@@ -40,6 +40,7 @@ public:
 protected:
     void paintEvent(QPaintEvent* event) override;
     void resizeEvent(QResizeEvent* event) override;
+    void changeEvent(QEvent* event) override;
     void mouseReleaseEvent(QMouseEvent* event) override;
 
 private:
@@ -48,6 +49,9 @@ private:
 
     Tone tone_;
     Overflow overflow_;
+    // The last answer of heightForWidth: layouts ask for the same one many times.
+    mutable int measuredWidth_ = -1;
+    mutable int measuredHeight_ = 0;
 };
 
 } // namespace kelmar

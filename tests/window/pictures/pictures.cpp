@@ -1,0 +1,233 @@
+#include "tests/support/unremovable.hpp"
+#include "tests/window/pictures/grab.hpp"
+#include "tests/window/window_in_a_box.hpp"
+
+#include <algorithm>
+#include <cstdlib>
+#include <filesystem>
+#include <optional>
+#include <string>
+
+namespace kelmar {
+namespace {
+
+/// The desktop that the window opens on.
+enum class Desktop {
+    light,
+    dark,
+};
+
+/// Draws the window in every state that it has, as the built program shows it on a pretend Mac.
+/// What can't be reached fails, as in a test.
+class Pictures : public test::WindowOnAPretendMac, public testing::WithParamInterface<Desktop> {
+protected:
+    /// Everything that the product can have, in amounts that people have.
+    void installEverything() const {
+        box->tree().everything();
+        box->chownToUser("/Users/ann");
+        box->chownToUser("/box/tmp");
+        const std::string agents = "/Library/LaunchAgents/";
+        box->addService("com.kelmar.api", agents + "com.kelmar.api.plist");
+        box->addService("com.kelmar.worker", agents + "com.kelmar.worker.plist");
+    }
+
+    void openOnDesktop() {
+        box->set("/box/config/kdeglobals", settings());
+        test::Program program = onTheScreen(box->uninstaller({}));
+        // The toolkit takes font and palette from the settings of this desktop.
+        program.environment["XDG_CURRENT_DESKTOP"] = "KDE";
+        program.environment["KDE_SESSION_VERSION"] = "5";
+        program.environment["XDG_CONFIG_HOME"] = "/box/config";
+        program.environment["QT_SCALE_FACTOR"] = scale();
+        Window::open(program);
+    }
+
+    /// Keeps what the window shows as the picture of that name.
+    void picture(const std::string& name) const {
+        ::usleep(250'000); // the mouse has left, a spinner has turned
+        const char* const folder = std::getenv("KELMAR_PICTURES");
+        ASSERT_NE(folder, nullptr) << "KELMAR_PICTURES names the folder for the pictures";
+        const std::string desktop = GetParam() == Desktop::light ? "-light" : "-dark";
+        ASSERT_TRUE(test::grab(screen->name(), onScreen(),
+                               std::string(folder) + "/" + name + desktop + ".png"));
+    }
+
+    void waitForSizes() const {
+        ASSERT_TRUE(shows("push button: Uninstall"));
+        ASSERT_TRUE(eventually([this] {
+            const Lines lines = page();
+            return std::none_of(lines.begin(), lines.end(), [](const std::string& line) {
+                return line.find("Measuring") != std::string::npos;
+            });
+        }));
+    }
+
+    void leave() const { screen->moveTo({test::Screen::width - 1, test::Screen::height - 1}); }
+
+    void press(const std::string& role, const std::string& name) const {
+        click(role, name);
+        leave();
+    }
+
+private:
+    static std::string scale() {
+        const char* const wanted = std::getenv("KELMAR_PICTURES_SCALE");
+        return wanted == nullptr ? "1" : wanted;
+    }
+
+    static std::string settings() {
+        const std::string fonts = "[General]\nfont=Inter,10,-1,5,50,0,0,0,0,0\n"
+                                  "fixed=DejaVu Sans Mono,9,-1,5,50,0,0,0,0,0\n";
+        const auto colours = [](const std::string& set, const std::string& ground,
+                                const std::string& text) {
+            return "[Colors:" + set + "]\nBackgroundNormal=" + ground +
+                   "\nForegroundNormal=" + text + "\n";
+        };
+        const std::string selection = colours("Selection", "45,125,210", "255,255,255");
+        if (GetParam() == Desktop::light) {
+            return fonts + selection + colours("Window", "240,240,241", "30,30,32") +
+                   colours("View", "255,255,255", "30,30,32") +
+                   colours("Button", "250,250,250", "30,30,32") +
+                   colours("Tooltip", "250,250,250", "30,30,32");
+        }
+        return fonts + selection + colours("Window", "43,45,48", "238,239,240") +
+               colours("View", "30,31,34", "238,239,240") +
+               colours("Button", "58,60,64", "238,239,240") +
+               colours("Tooltip", "58,60,64", "238,239,240");
+    }
+};
+
+TEST_P(Pictures, Scanning) {
+    installEverything();
+    hold("/usr/sbin/pkgutil");
+    openOnDesktop();
+    ASSERT_TRUE(shows("label: Looking for Kelmar…"));
+    picture("scanning");
+}
+
+TEST_P(Pictures, NothingFound) {
+    openOnDesktop();
+    ASSERT_TRUE(shows("heading: Kelmar isn't on this Mac"));
+    picture("nothing-found");
+}
+
+TEST_P(Pictures, Measuring) {
+    installEverything();
+    hold("/usr/bin/du");
+    openOnDesktop();
+    ASSERT_TRUE(shows("label: Delete Kelmar data, Measuring…"));
+    picture("measuring");
+    press("push button", "Uninstall");
+    ASSERT_TRUE(shows("label: Delete your Kelmar data?"));
+    picture("question-while-measuring");
+}
+
+TEST_P(Pictures, FromTheChoiceToTheEnd) {
+    installEverything();
+    box->start("/Users/ann/Applications/Kelmar.app/Contents/MacOS/Kelmar");
+    openOnDesktop();
+    waitForSizes();
+    picture("ready");
+    press("push button", "Choose folders");
+    ASSERT_TRUE(shows("check box: Store (on)"));
+    screen->scrollDown(onScreen().place.centre(), 30);
+    leave();
+    press("check box", "Store");
+    ASSERT_TRUE(shows("check box: Store"));
+    picture("folders");
+    press("push button", "Uninstall");
+    ASSERT_TRUE(shows("push button: Uninstall and Delete Data"));
+    picture("question");
+    press("push button", "Uninstall and Delete Data");
+    ASSERT_TRUE(shows("label: Waiting for an administrator's password"));
+    picture("working");
+    press("push button", "Details");
+    ASSERT_TRUE(shows("text: Details"));
+    picture("working-details");
+    goOn();
+    ASSERT_TRUE(shows("heading: Kelmar has been removed"));
+    picture("finished-details");
+    press("push button", "Details");
+    picture("finished");
+}
+
+TEST_P(Pictures, DataThatStays) {
+    installEverything();
+    openOnDesktop();
+    waitForSizes();
+    press("check box", "Delete Kelmar data");
+    ASSERT_TRUE(shows("check box: Delete Kelmar data"));
+    picture("keeping");
+    goOn();
+    press("push button", "Uninstall");
+    ASSERT_TRUE(shows("heading: Kelmar has been removed"));
+    picture("kept");
+}
+
+TEST_P(Pictures, Cancelled) {
+    installEverything();
+    box->answerPasswordWith("exit 1\n");
+    openOnDesktop();
+    waitForSizes();
+    press("push button", "Uninstall");
+    ASSERT_TRUE(shows("push button: Uninstall and Delete Data"));
+    press("push button", "Uninstall and Delete Data");
+    ASSERT_TRUE(shows("push button: Choose folders"));
+    picture("cancelled");
+}
+
+TEST_P(Pictures, LeftOver) {
+    installEverything();
+    box->mountOver("/Users/ann/Library/Logs/Kelmar");
+    box->mountOver("/Users/ann/Kelmar/Store");
+    openOnDesktop();
+    goOn();
+    waitForSizes();
+    press("push button", "Uninstall");
+    ASSERT_TRUE(shows("push button: Uninstall and Delete Data"));
+    press("push button", "Uninstall and Delete Data");
+    ASSERT_TRUE(shows("heading: Kelmar wasn't completely removed"));
+    picture("leftover");
+}
+
+TEST_P(Pictures, TheAppIsGone) {
+    box->tree().services(Scope::allUsers).agents(Scope::me).settings();
+    box->chownToUser("/Users/ann");
+    openOnDesktop();
+    waitForSizes();
+    picture("app-gone");
+}
+
+TEST_P(Pictures, NamesOfAllKinds) {
+    box->tree().app(Scope::me, "4.3").dataFolder(Scope::me, "Store", 1'000);
+    for (const char* const name : {"תיקייה שלי", "مجلد", "🗂️ Fälle 👩‍⚖️",
+                                   "a very long name that someone gave to a "
+                                   "folder-without-any-blank-in-its-second-half",
+                                   "<b>bold</b>", "line\nbreak"}) {
+        box->tree().otherItem(Scope::me, name);
+    }
+    box->chownToUser("/Users/ann");
+    openOnDesktop();
+    press("push button", "Choose folders");
+    ASSERT_TRUE(shows("check box: Store (on)"));
+    screen->scrollDown(onScreen().place.centre(), 30);
+    leave();
+    picture("names");
+}
+
+TEST_P(Pictures, TheKeyboardsFocus) {
+    installEverything();
+    openOnDesktop();
+    waitForSizes();
+    screen->press("Tab");
+    ASSERT_TRUE(focusIsOn("check box: Delete Kelmar data"));
+    picture("focus");
+}
+
+INSTANTIATE_TEST_SUITE_P(Desktops, Pictures, testing::Values(Desktop::light, Desktop::dark),
+                         [](const auto& desktop) {
+                             return desktop.param == Desktop::light ? "light" : "dark";
+                         });
+
+} // namespace
+} // namespace kelmar
