@@ -10,7 +10,7 @@
 
 namespace kelmar::bench {
 
-int runChild(const std::vector<std::string>& command, bool quiet) {
+pid_t startChild(const std::vector<std::string>& command, bool quiet) {
     std::vector<char*> arguments;
     arguments.reserve(command.size() + 1);
     for (const std::string& word : command) {
@@ -31,6 +31,11 @@ int runChild(const std::vector<std::string>& command, bool quiet) {
         std::fprintf(stderr, "cannot start %s\n", command.front().c_str());
         std::exit(EXIT_FAILURE);
     }
+    return child;
+}
+
+int runChild(const std::vector<std::string>& command, bool quiet) {
+    const pid_t child = startChild(command, quiet);
     int status = 0;
     ::waitpid(child, &status, 0);
     return status;

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "bench/pair_table.hpp"
+
 #include <benchmark/benchmark.h>
 
 #include <map>
@@ -7,13 +9,6 @@
 #include <vector>
 
 namespace kelmar::bench {
-
-/// What a benchmark is compared with and may cost at most.
-struct Pair {
-    std::string title;  ///< as the table has it
-    std::string beside; ///< what it is measured beside
-    double limit;       ///< the largest ratio of the two medians that is meant
-};
 
 /// Collects the repetitions of benchmarks named KEY/ours and KEY/beside and prints, at the end, one
 /// row a pair: both medians and their ratio.
@@ -29,7 +24,7 @@ public:
 
 private:
     std::map<std::string, Pair> pairs_;
-    std::map<std::string, std::vector<double>> seconds_;
+    std::map<std::string, std::vector<double>> milliseconds_;
 };
 
 } // namespace kelmar::bench

@@ -4,6 +4,7 @@
 
 #include "bench/child.hpp"
 #include "bench/pair_reporter.hpp"
+#include "bench/require.hpp"
 #include "discovery/scanner.hpp"
 #include "system/shell.hpp"
 #include "tests/support/mac_tree.hpp"
@@ -75,13 +76,6 @@ void add(const std::string& name, int iterations, const std::function<void()>& s
         ->Iterations(iterations)
         ->Repetitions(repetitions)
         ->UseRealTime();
-}
-
-void require(bool holds, const char* what) {
-    if (!holds) {
-        std::fprintf(stderr, "not measured: %s\n", what);
-        std::exit(EXIT_FAILURE);
-    }
 }
 
 void measureStartUp() {

@@ -53,7 +53,7 @@ install_packages() {
     window_test_packages=(xvfb at-spi2-core dbus-daemon libatspi2.0-dev libx11-dev libxtst-dev libsm-dev)
     clang_packages=(clang clang-tidy clang-format libclang-rt-dev)
     picture_packages=(fonts-inter fonts-noto-color-emoji)
-    window_bench_packages=(xvfb libx11-dev libxdamage-dev)
+    window_bench_packages=(xvfb libx11-dev libxcb1-dev libxdamage-dev)
     bench_packages=(libbenchmark-dev findutils coreutils time)
 }
 
