@@ -52,6 +52,9 @@ struct Header {
     std::string title;
     std::string subtitle;
 
+    /// Both, as a screen reader is to say them.
+    [[nodiscard]] std::string announcement() const;
+
     friend bool operator==(const Header&, const Header&) = default;
 };
 

@@ -211,5 +211,11 @@ TEST(Page, AsksWhileTheQuestionIsUp) {
     EXPECT_EQ(pageOf(published), expected);
 }
 
+TEST(HeaderOfThePage, IsAnnouncedWithOneStopBetweenItsLines) {
+    EXPECT_EQ((Header{"Kelmar has been removed", "Now."}).announcement(),
+              "Kelmar has been removed. Now.");
+    EXPECT_EQ((Header{"Uninstalling Kelmar…", "Now."}).announcement(), "Uninstalling Kelmar… Now.");
+}
+
 } // namespace
 } // namespace kelmar

@@ -64,8 +64,18 @@ Block& ContentColumn::block(Place place, const Parts&... parts) {
         auto* const made = new Block(parts...);
         widget = made;
         column_->itemAt(static_cast<int>(place))->layout()->addWidget(made);
+        keepReadingOrder(place);
     }
     return static_cast<Block&>(*widget);
+}
+
+void ContentColumn::keepReadingOrder(Place made) {
+    // Screen readers go through the blocks in their stacking order, and what is made is on top.
+    for (auto later = static_cast<std::size_t>(made) + 1; later < places; ++later) {
+        if (QWidget* const widget = blocks_.at(later)) {
+            widget->raise();
+        }
+    }
 }
 
 void ContentColumn::render(const Content& content) {

@@ -50,6 +50,8 @@ private:
     template <class Block, class... Parts>
     Block& block(Place place, const Parts&... parts);
 
+    void keepReadingOrder(Place made);
+
     WindowActions actions_;
     QVBoxLayout* column_;
     std::array<QWidget*, places> blocks_{};

@@ -62,6 +62,7 @@ FolderListWidget::FolderListWidget(SelectFolder select, QWidget* parent)
 void FolderListWidget::render(const FolderList& list) {
     heading_->showText(list.heading);
     rows_.render(list.rows, [this](std::size_t) { return new FolderRowWidget(select_); });
+    others_->raise(); // last for screen readers too, which go by the stacking order
     others_->setVisible(list.otherItems.has_value());
     others_->showText(list.otherItems.value_or(""));
 }

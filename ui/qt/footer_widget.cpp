@@ -29,6 +29,7 @@ void FooterWidget::render(const Footer& footer) {
     notes_.render(footer.notes, [](std::size_t) {
         return new NoteRow(16, TextStyle::callout, TextLabel::Tone::secondary);
     });
+    buttons_->raise(); // last for screen readers too, which go by the stacking order
     busy_->setVisible(footer.busy.has_value());
     busy_->render(footer.busy.value_or(Busy{}));
     buttons_->render(footer.buttons);

@@ -38,7 +38,7 @@ void HeaderWidget::render(const Header& header, bool announced) {
     title_->showText(header.title);
     subtitle_->showText(header.subtitle);
     if (announced) {
-        announce(*announcer_, QString::fromStdString(header.title + ". " + header.subtitle));
+        announce(*announcer_, QString::fromStdString(header.announcement()));
     }
 }
 

@@ -39,7 +39,8 @@ MainWindow::MainWindow(const WindowActions& actions, const std::function<void(Me
 
 void MainWindow::open() {
     const QRect room = screen()->availableGeometry();
-    move(room.center() - QPoint(contentSize.width() / 2, contentSize.height() / 2));
+    move(room.x() + (room.width() - contentSize.width()) / 2,
+         room.y() + (room.height() - contentSize.height()) / 2);
     // Nowhere in particular until a key moves it, instead of on the first button that there is.
     page_->setFocus();
     show();

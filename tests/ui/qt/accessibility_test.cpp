@@ -3,6 +3,7 @@
 #include "ui/qt/toggle_switch.hpp"
 
 #include <QAccessible>
+#include <functional>
 #include <set>
 
 namespace kelmar {
@@ -82,6 +83,29 @@ TEST_F(Accessibility, TitlesAreHeadings) {
     EXPECT_EQ(role(seen<TextLabel>("Uninstall Kelmar")), QAccessible::Heading);
     EXPECT_EQ(role(seen<TextLabel>("Your data")), QAccessible::Heading);
     EXPECT_EQ(name(seen<TextLabel>("Your data")), "Your data");
+}
+
+TEST_F(Accessibility, IsReadFromTopToBottomWhateverWasMadeFirst) {
+    render(test::workingPage());
+    render(test::finishedPage());
+    render(test::readyPage());
+    render(test::finishedPage(LogLines({"x"}), true));
+    std::vector<std::string> read;
+    const std::function<void(QAccessibleInterface*)> walk = [&](QAccessibleInterface* each) {
+        const auto* const widget = qobject_cast<QWidget*>(each->object());
+        if (widget != nullptr && widget->isVisible() && !each->text(QAccessible::Name).isEmpty() &&
+            each->role() != QAccessible::Notification) {
+            read.push_back(each->text(QAccessible::Name).toStdString());
+        }
+        for (int index = 0; index < each->childCount(); ++index) {
+            walk(each->child(index));
+        }
+    };
+    walk(QAccessible::queryAccessibleInterface(&window));
+    EXPECT_EQ(read,
+              (std::vector<std::string>{"Kelmar wasn't completely removed", "Restart.", "Gone.",
+                                        "Not removed", "~/Kelmar", "it is still there", "Details",
+                                        "Details", "Try Again", "Quit"}));
 }
 
 TEST_F(Accessibility, TheQuestionIsAnAlert) {

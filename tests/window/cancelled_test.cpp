@@ -1,0 +1,43 @@
+#include "tests/support/snapshot.hpp"
+#include "tests/window/window_in_a_box.hpp"
+
+namespace kelmar {
+namespace {
+
+using test::WindowOnAPretendMac;
+
+TEST_F(WindowOnAPretendMac, GoesBackToTheChoiceWhenNobodyGivesThePassword) {
+    installForBoth();
+    box->answerPasswordWith("exit 1\n");
+    const auto before = test::contents(box->outside("/Users"));
+    open();
+    ASSERT_TRUE(shows("push button: Uninstall"));
+    click("push button", "Choose folders");
+    click("check box", "CDN");
+    ASSERT_TRUE(shows("check box: CDN"));
+    const std::string size = sizeOf({box->outside("/Users/ann/Kelmar/Store")});
+    ASSERT_TRUE(shows("label: Delete Kelmar data, " + size));
+    const std::string notice =
+        "label: Nothing was removed: removing Kelmar needs an administrator's password. Kelmar was "
+        "closed; open it again from Applications if you still need it.";
+
+    for (int round = 0; round < 2; ++round) {
+        click("push button", "Uninstall");
+        click("push button", "Uninstall and Delete Data");
+        ASSERT_TRUE(shows(notice));
+        EXPECT_TRUE(shows("heading: Uninstall Kelmar"));
+        EXPECT_TRUE(shows("check box: Store (on)"));
+        EXPECT_TRUE(shows("check box: CDN"));
+        EXPECT_TRUE(shows("label: Delete Kelmar data, " + size));
+        EXPECT_EQ(test::contents(box->outside("/Users")), before);
+        const Lines lines = page();
+        ASSERT_GT(lines.size(), 3U);
+        EXPECT_EQ(lines[2], notice) << "it comes before what was found";
+        EXPECT_EQ(lines[3], "heading: Found on this Mac");
+    }
+    screen->press("Escape");
+    EXPECT_LE(expectEnd(), test::timeToEnd);
+}
+
+} // namespace
+} // namespace kelmar

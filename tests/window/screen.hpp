@@ -1,0 +1,83 @@
+#pragma once
+
+#include "tests/window/background_program.hpp"
+
+#include <optional>
+#include <string>
+#include <vector>
+
+struct _XDisplay;
+
+namespace kelmar::test {
+
+struct Point {
+    int x = 0;
+    int y = 0;
+};
+
+struct Rectangle {
+    int x = 0;
+    int y = 0;
+    int width = 0;
+    int height = 0;
+
+    [[nodiscard]] Point centre() const { return {x + width / 2, y + height / 2}; }
+
+    friend bool operator==(const Rectangle&, const Rectangle&) = default;
+};
+
+/// A top-level window as the X server knows it.
+struct ScreenWindow {
+    unsigned long id = 0;
+    std::string title; ///< empty for menus and the like
+    Rectangle place;
+
+    friend bool operator==(const ScreenWindow&, const ScreenWindow&) = default;
+};
+
+/// A screen of 1280 by 900 that nobody sees, with a keyboard and a mouse that tests use. No window
+/// manager runs on it: windows have no frames and stay where they put themselves.
+class Screen {
+public:
+    static constexpr int width = 1280;
+    static constexpr int height = 900;
+
+    /// Why there can be no such screen on this machine, if there can't.
+    static std::optional<std::string> obstacle();
+
+    Screen();
+    Screen(const Screen&) = delete;
+    Screen& operator=(const Screen&) = delete;
+    ~Screen();
+
+    /// What programs call it by, as in DISPLAY.
+    [[nodiscard]] const std::string& name() const { return name_; }
+
+    /// The windows that are to be seen.
+    [[nodiscard]] std::vector<ScreenWindow> windows() const;
+
+    /// Presses and releases a key, by its X name, with others held down before it: "Tab",
+    /// "Shift+Tab", "Control+Alt+h".
+    void press(const std::string& keys) const;
+
+    void moveTo(Point place) const;
+    void click(Point place) const;
+    /// Turns the wheel towards the person by that many notches.
+    void scrollDown(Point place, int notches) const;
+
+    /// What a window manager does when the close button is pressed.
+    void askToClose(const ScreenWindow& window) const;
+
+    /// The one size that a window says it can have, if it says so.
+    [[nodiscard]] std::optional<Point> fixedSize(const ScreenWindow& window) const;
+
+    /// The text in the clipboard, or nothing where its owner gives none.
+    [[nodiscard]] std::optional<std::string> clipboard() const;
+
+private:
+    BackgroundProgram server_;
+    std::string name_;
+    _XDisplay* display_ = nullptr;
+};
+
+} // namespace kelmar::test

@@ -1,0 +1,76 @@
+#include "tests/window/window_in_a_box.hpp"
+
+#include <filesystem>
+
+namespace kelmar::test {
+
+namespace {
+
+namespace fs = std::filesystem;
+
+constexpr const char* held = "/box/held";
+constexpr const char* goingOn = "/box/go-on";
+
+std::string waiting() {
+    return std::string("touch ") + held + "\nwhile [ ! -e " + goingOn + " ]; do sleep 0.02; done\n";
+}
+
+} // namespace
+
+void WindowOnAPretendMac::SetUp() {
+    if (const auto obstacle = Box::obstacle()) {
+        GTEST_SKIP() << *obstacle;
+    }
+    Window::SetUp();
+    if (IsSkipped()) {
+        return;
+    }
+    box = std::make_unique<Box>();
+    const std::string module = "kelmar-window.so";
+    fs::copy_file(fs::path(test::uninstaller({}, {}).path).parent_path() / module,
+                  box->outside("/box/bin/" + module));
+    box->set("/box/state"); // and with it lets everybody put files there
+    box->answerPasswordWith(waiting() + "echo '" + Box::password + "'\n");
+}
+
+void WindowOnAPretendMac::TearDown() {
+    if (box) {
+        goOn(); // also those whom the window has left behind
+    }
+    running.reset();
+    Window::TearDown();
+}
+
+void WindowOnAPretendMac::open() {
+    Window::open(box->uninstaller({}));
+}
+
+void WindowOnAPretendMac::installForBoth() const {
+    box->tree()
+        .app(Scope::me, "4.3")
+        .app(Scope::allUsers, "4.2.1")
+        .dataFolder(Scope::me, "Store", 2'000'000)
+        .dataFolder(Scope::allUsers, "CDN", 1'000'000);
+    box->chownToUser("/Users/ann");
+}
+
+void WindowOnAPretendMac::hold(const std::string& path) const {
+    box->replace(path, waiting());
+}
+
+bool WindowOnAPretendMac::isHeld() const {
+    return fs::exists(box->outside(held));
+}
+
+void WindowOnAPretendMac::goOn() const {
+    box->set(goingOn);
+}
+
+void WindowOnAPretendMac::startAndStopAtThePassword() const {
+    click("push button", "Uninstall");
+    click("push button", "Uninstall and Delete Data");
+    ASSERT_TRUE(shows("heading: Uninstalling Kelmar…"));
+    ASSERT_TRUE(eventually([this] { return isHeld(); }));
+}
+
+} // namespace kelmar::test
