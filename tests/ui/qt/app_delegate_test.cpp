@@ -60,19 +60,19 @@ protected:
         QTest::mouseClick(button(text), Qt::LeftButton);
     }
 
-    /// A run that waits at its very beginning until the gate opens: the administrator's runner is
-    /// asked for before anything is done.
-    UninstallerModel::Sources slow() {
+    /// Folders are measured once the gate is open.
+    [[nodiscard]] UninstallerModel::Sources slow() const {
         UninstallerModel::Sources sources;
-        sources.size = [this](const std::string& path) {
-            gate.wait();
+        sources.size = [gate = gate](const std::string& path) {
+            gate->wait();
             return Scanner::size(path);
         };
         return sources;
     }
 
     test::TemporaryFolder folder;
-    Gate gate;
+    /// Shared with the thread that measures, which nobody waits for.
+    std::shared_ptr<Gate> gate = std::make_shared<Gate>();
     std::unique_ptr<AppDelegate> delegate;
 };
 
@@ -157,7 +157,7 @@ TEST_F(Application, MayEndWheneverNoRunIsGoingOn) {
     ASSERT_TRUE(waitFor("Found on this Mac"));
     EXPECT_TRUE(delegate->windowShouldClose()) << "also while folders are being measured";
     EXPECT_TRUE(delegate->window()->close());
-    gate.open = true;
+    gate->open = true;
 }
 
 TEST_F(Application, RefusesToCloseDuringARun) {

@@ -31,14 +31,14 @@ protected:
         box->addService("com.kelmar.worker", agents + "com.kelmar.worker.plist");
     }
 
-    void openOnDesktop() {
+    void openOnDesktop(const std::string& scale = "1") {
         box->set("/box/config/kdeglobals", settings());
         test::Program program = onTheScreen(box->uninstaller({}));
         // The toolkit takes font and palette from the settings of this desktop.
         program.environment["XDG_CURRENT_DESKTOP"] = "KDE";
         program.environment["KDE_SESSION_VERSION"] = "5";
         program.environment["XDG_CONFIG_HOME"] = "/box/config";
-        program.environment["QT_SCALE_FACTOR"] = scale();
+        program.environment["QT_SCALE_FACTOR"] = scale;
         Window::open(program);
     }
 
@@ -70,11 +70,6 @@ protected:
     }
 
 private:
-    static std::string scale() {
-        const char* const wanted = std::getenv("KELMAR_PICTURES_SCALE");
-        return wanted == nullptr ? "1" : wanted;
-    }
-
     static std::string settings() {
         const std::string fonts = "[General]\nfont=Inter,10,-1,5,50,0,0,0,0,0\n"
                                   "fixed=DejaVu Sans Mono,9,-1,5,50,0,0,0,0,0\n";
@@ -188,6 +183,13 @@ TEST_P(Pictures, LeftOver) {
     press("push button", "Uninstall and Delete Data");
     ASSERT_TRUE(shows("heading: Kelmar wasn't completely removed"));
     picture("leftover");
+}
+
+TEST_P(Pictures, AtTwiceTheSize) {
+    installEverything();
+    openOnDesktop("2");
+    waitForSizes();
+    picture("ready-2x");
 }
 
 TEST_P(Pictures, TheAppIsGone) {
