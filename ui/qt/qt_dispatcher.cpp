@@ -25,13 +25,15 @@ QtDispatcher::~QtDispatcher() {
 }
 
 void QtDispatcher::toMain(Job job) {
-    auto* const posted = new Posted{std::move(job), posted_.load(std::memory_order_relaxed)};
-    // Release: whoever takes the chain sees what this thread wrote. Relaxed on failure: the value
-    // is only put into our own record. Nobody else frees a record, so none comes back (no ABA).
-    while (!posted_.compare_exchange_weak(posted->earlier, posted, std::memory_order_release,
-                                          std::memory_order_relaxed)) {
-    }
-    if (posted->earlier == nullptr) {
+    auto* const posted = new Posted{std::move(job), nullptr};
+    Posted* latest = posted_.load(std::memory_order_relaxed);
+    // Release: whoever takes the chain sees what this thread wrote. From then on the record belongs
+    // to the main thread, which may have freed it by now. Nobody else frees any (no ABA).
+    do {
+        posted->earlier = latest;
+    } while (!posted_.compare_exchange_weak(latest, posted, std::memory_order_release,
+                                            std::memory_order_relaxed));
+    if (latest == nullptr) {
         QCoreApplication::postEvent(this, new QEvent(QEvent::User));
     }
 }
