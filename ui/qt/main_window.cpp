@@ -6,7 +6,7 @@
 
 #include <QCloseEvent>
 #include <QScreen>
-#include <QTimer>
+#include <QTimerEvent>
 #include <utility>
 
 namespace kelmar {
@@ -47,7 +47,16 @@ void MainWindow::open() {
     raise();
     activateWindow();
     // Desktops show it in other places than the window, which need not wait for it.
-    QTimer::singleShot(0, this, [this] { setWindowIcon(icon()); });
+    afterwards_.start(0, this);
+}
+
+void MainWindow::timerEvent(QTimerEvent* event) {
+    if (event->timerId() == afterwards_.timerId()) {
+        afterwards_.stop();
+        setWindowIcon(icon());
+    } else {
+        QMainWindow::timerEvent(event);
+    }
 }
 
 void MainWindow::closeEvent(QCloseEvent* event) {

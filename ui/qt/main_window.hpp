@@ -3,6 +3,7 @@
 #include "ui/menu.hpp"
 #include "ui/qt/window_actions.hpp"
 
+#include <QBasicTimer>
 #include <QMainWindow>
 #include <functional>
 
@@ -24,10 +25,12 @@ public:
 
 protected:
     void closeEvent(QCloseEvent* event) override;
+    void timerEvent(QTimerEvent* event) override;
 
 private:
     std::function<bool()> shouldClose_;
     PageWidget* page_;
+    QBasicTimer afterwards_; ///< for what need not be there when the window opens
 };
 
 } // namespace kelmar
