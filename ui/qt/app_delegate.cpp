@@ -22,15 +22,10 @@ AppDelegate::~AppDelegate() {
 }
 
 void AppDelegate::applicationDidFinishLaunching() {
-    const WindowActions actions{[this](Action action) { view_.perform(action); },
-                                [this](bool all) {
-                                    view_.setDeleteAllData(all);
-                                    renderSoon();
-                                },
-                                [this](const std::string& path, bool selected) {
-                                    view_.setSelected(path, selected);
-                                    renderSoon();
-                                }};
+    const WindowActions actions{
+        [this](Action action) { view_.perform(action); },
+        [this](bool all) { view_.setDeleteAllData(all); },
+        [this](const std::string& path, bool selected) { view_.setSelected(path, selected); }};
     window_ = std::make_unique<MainWindow>(
         actions, [this](MenuAction action) { perform(action); },
         [this] { return windowShouldClose(); });

@@ -29,4 +29,14 @@ void Hairline::paintEvent(QPaintEvent* /*event*/) {
     painter.fillRect(rect().adjusted(indent_, 0, 0, 0), Colours(palette()).hairline);
 }
 
+QVBoxLayout& layOutRow(QWidget& row, bool first, int indent) {
+    auto* const column = new QVBoxLayout(&row);
+    column->setContentsMargins(0, 0, 0, 0);
+    column->setSpacing(0);
+    if (!first) {
+        column->addWidget(new Hairline(indent));
+    }
+    return *column;
+}
+
 } // namespace kelmar

@@ -31,4 +31,8 @@ private:
     int indent_;
 };
 
+/// The layout of a row of a card, from top to bottom, with a line above the row unless it is the
+/// first one.
+QVBoxLayout& layOutRow(QWidget& row, bool first, int indent);
+
 } // namespace kelmar

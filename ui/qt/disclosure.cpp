@@ -6,7 +6,6 @@
 #include "ui/qt/symbols.hpp"
 
 #include <QAccessible>
-#include <QKeyEvent>
 #include <QPainter>
 
 namespace kelmar {
@@ -56,14 +55,6 @@ void Disclosure::paintEvent(QPaintEvent* /*event*/) {
         paintFocusRing(painter,
                        QRectF(rect()).adjusted(focusRoom, focusRoom, -focusRoom, -focusRoom), 4,
                        colours);
-    }
-}
-
-void Disclosure::keyPressEvent(QKeyEvent* event) {
-    if (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter) {
-        event->ignore();
-    } else {
-        QPushButton::keyPressEvent(event);
     }
 }
 

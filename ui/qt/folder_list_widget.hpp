@@ -24,8 +24,6 @@ public:
 
     void render(const FolderRow& row);
 
-    [[nodiscard]] CheckBox& checkBox() const { return *check_; }
-
 private:
     std::string path_;
     CheckBox* check_;

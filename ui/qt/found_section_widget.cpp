@@ -20,12 +20,7 @@ FoundRowWidget::FoundRowWidget(bool first, QWidget* parent)
       icon_(new SymbolLabel(iconColumn)),
       title_(new TextLabel(TextStyle::body, TextLabel::Tone::primary)),
       detail_(new TextLabel(TextStyle::callout, TextLabel::Tone::secondary)) {
-    auto* const column = new QVBoxLayout(this);
-    column->setContentsMargins(0, 0, 0, 0);
-    column->setSpacing(0);
-    if (!first) {
-        column->addWidget(new Hairline(dividerIndent));
-    }
+    QVBoxLayout& column = layOutRow(*this, first, dividerIndent);
     auto* const row = new QHBoxLayout;
     row->setContentsMargins(12, 8, 12, 8);
     row->setSpacing(12);
@@ -35,7 +30,7 @@ FoundRowWidget::FoundRowWidget(bool first, QWidget* parent)
     texts->addWidget(detail_);
     row->addWidget(icon_, 0, Qt::AlignVCenter);
     row->addLayout(texts, 1);
-    column->addLayout(row);
+    column.addLayout(row);
 }
 
 void FoundRowWidget::render(const FoundRow& row) {

@@ -16,18 +16,13 @@ ProgressRowWidget::ProgressRowWidget(bool first, QWidget* parent)
     : QWidget(parent),
       icon_(new SymbolLabel(iconSide)),
       title_(new TextLabel(TextStyle::body, TextLabel::Tone::primary)) {
-    auto* const column = new QVBoxLayout(this);
-    column->setContentsMargins(0, 0, 0, 0);
-    column->setSpacing(0);
-    if (!first) {
-        column->addWidget(new Hairline(dividerIndent));
-    }
+    QVBoxLayout& column = layOutRow(*this, first, dividerIndent);
     auto* const row = new QHBoxLayout;
     row->setContentsMargins(12, 12, 12, 12);
     row->setSpacing(12);
     row->addWidget(icon_, 0, Qt::AlignTop);
     row->addWidget(title_, 1, Qt::AlignVCenter);
-    column->addLayout(row);
+    column.addLayout(row);
 }
 
 void ProgressRowWidget::render(const ProgressRow& row) {

@@ -4,7 +4,6 @@
 #include "ui/qt/focus_ring.hpp"
 #include "ui/qt/fonts.hpp"
 
-#include <QKeyEvent>
 #include <QPainter>
 #include <algorithm>
 
@@ -70,14 +69,6 @@ void PushButton::paintEvent(QPaintEvent* /*event*/) {
     painter.drawText(rect(), Qt::AlignCenter, text());
     if (showsFocus(*this)) {
         paintFocusRing(painter, face, radius, colours);
-    }
-}
-
-void PushButton::keyPressEvent(QKeyEvent* event) {
-    if (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter) {
-        event->ignore();
-    } else {
-        QPushButton::keyPressEvent(event);
     }
 }
 

@@ -23,18 +23,13 @@ ProblemRowWidget::ProblemRowWidget(bool first, QWidget* parent)
     : QWidget(parent),
       path_(new TextLabel(TextStyle::body, TextLabel::Tone::primary)),
       reason_(new TextLabel(TextStyle::callout, TextLabel::Tone::secondary)) {
-    auto* const column = new QVBoxLayout(this);
-    column->setContentsMargins(0, 0, 0, 0);
-    column->setSpacing(0);
-    if (!first) {
-        column->addWidget(new Hairline(12));
-    }
+    QVBoxLayout& column = layOutRow(*this, first, 12);
     auto* const texts = new QVBoxLayout;
     texts->setContentsMargins(12, 8, 12, 8);
     texts->setSpacing(2);
     texts->addWidget(path_);
     texts->addWidget(reason_);
-    column->addLayout(texts);
+    column.addLayout(texts);
 }
 
 void ProblemRowWidget::render(const ProblemRow& row) {

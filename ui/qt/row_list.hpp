@@ -16,10 +16,8 @@ public:
     explicit RowList(QBoxLayout& layout) : layout_(layout) {}
 
     /// Shows `records`, each by `row.render(record)`; `make(index)` makes a row that is missing.
-    /// Whether rows came or went.
     template <class Record, class Make>
-    bool render(const std::vector<Record>& records, const Make& make) {
-        const bool changed = rows_.size() != records.size();
+    void render(const std::vector<Record>& records, const Make& make) {
         while (rows_.size() > records.size()) {
             delete rows_.back();
             rows_.pop_back();
@@ -32,7 +30,6 @@ public:
         for (std::size_t index = 0; index < records.size(); ++index) {
             rows_[index]->render(records[index]);
         }
-        return changed;
     }
 
     [[nodiscard]] const std::vector<Row*>& rows() const { return rows_; }
