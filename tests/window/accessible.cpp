@@ -1,5 +1,6 @@
 #include "tests/window/accessible.hpp"
 
+#include <algorithm>
 #include <utility>
 
 #include <atspi/atspi.h>
@@ -142,6 +143,7 @@ std::string Accessible::selectedText() const {
 std::vector<Accessible> Accessible::children() const {
     std::vector<Accessible> list;
     const int count = object_ ? atspi_accessible_get_child_count(object_.get(), nullptr) : 0;
+    list.reserve(static_cast<std::size_t>(std::max(count, 0)));
     for (int index = 0; index < count; ++index) {
         list.emplace_back(atspi_accessible_get_child_at_index(object_.get(), index, nullptr));
     }

@@ -7,7 +7,8 @@
 #include <string>
 #include <vector>
 
-struct _AtspiAccessible;
+struct _AtspiAccessible; // NOLINT(*-reserved-identifier,cert-dcl*): the name that the library gave
+                         // it
 
 namespace kelmar::test {
 
@@ -49,6 +50,7 @@ public:
     [[nodiscard]] std::string key() const;
 
     /// Does what a press on it does; whether the program says that it did.
+    // NOLINTNEXTLINE(modernize-use-nodiscard): a person does not look either
     bool press() const;
 
     /// Its text, and the part of it that is selected, where it has any.

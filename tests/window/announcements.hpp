@@ -3,8 +3,9 @@
 #include <string>
 #include <vector>
 
-struct _AtspiEvent;
-struct _AtspiEventListener;
+struct _AtspiEvent; // NOLINT(*-reserved-identifier,cert-dcl*): the name that the library gave it
+struct _AtspiEventListener; // NOLINT(*-reserved-identifier,cert-dcl*): the name that the library
+                            // gave it
 
 namespace kelmar::test {
 

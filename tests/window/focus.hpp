@@ -2,8 +2,9 @@
 
 #include "tests/window/accessible.hpp"
 
-struct _AtspiEvent;
-struct _AtspiEventListener;
+struct _AtspiEvent; // NOLINT(*-reserved-identifier,cert-dcl*): the name that the library gave it
+struct _AtspiEventListener; // NOLINT(*-reserved-identifier,cert-dcl*): the name that the library
+                            // gave it
 
 namespace kelmar::test {
 

@@ -2,6 +2,7 @@
 
 #include "tests/window/patience.hpp"
 
+#include <algorithm>
 #include <stdexcept>
 
 #include <X11/Xatom.h>
@@ -109,8 +110,9 @@ void Screen::press(const std::string& keys) const {
     for (const KeyCode code : codes) {
         XTestFakeKeyEvent(display_, code, True, CurrentTime);
     }
-    for (auto code = codes.rbegin(); code != codes.rend(); ++code) {
-        XTestFakeKeyEvent(display_, *code, False, CurrentTime);
+    std::reverse(codes.begin(), codes.end());
+    for (const KeyCode code : codes) {
+        XTestFakeKeyEvent(display_, code, False, CurrentTime);
     }
     XSync(display_, False);
 }

@@ -143,7 +143,7 @@ SessionManager::SessionManager() : state_(std::make_unique<State>()) {
 
 SessionManager::~SessionManager() {
     forget(*state_);
-    for (const IceConn connection : state_->connections) {
+    for (_IceConn* const connection : state_->connections) {
         lost(connection);
     }
     IceFreeListenObjs(state_->listenerCount, state_->listeners);
@@ -160,7 +160,8 @@ void SessionManager::serve() {
     for (int index = 0; index < state_->listenerCount; ++index) {
         if (isReadable(IceGetListenConnectionNumber(state_->listeners[index]))) {
             IceAcceptStatus status{};
-            if (const IceConn connection = IceAcceptConnection(state_->listeners[index], &status)) {
+            if (_IceConn* const connection =
+                    IceAcceptConnection(state_->listeners[index], &status)) {
                 state_->connections.push_back(connection);
             }
         }

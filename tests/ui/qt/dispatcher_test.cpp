@@ -56,9 +56,9 @@ TEST(Dispatcher, LosesNothingOfManyThreads) {
     QtDispatcher dispatcher;
     constexpr int each = 20'000;
     int count = 0;
-    std::vector<std::thread> posters;
-    for (int thread = 0; thread < 4; ++thread) {
-        posters.emplace_back([&] {
+    std::array<std::thread, 4> posters;
+    for (std::thread& poster : posters) {
+        poster = std::thread([&] {
             for (int number = 0; number < each; ++number) {
                 dispatcher.toMain([&] { ++count; });
             }

@@ -89,7 +89,7 @@ TEST_F(Update, OfOneSizeDrawsThatSize) {
 TEST_F(Update, KeepsEveryWidgetOfARowThatStays) {
     Page ready = test::readyPage();
     render(ready);
-    CheckBox* const logs = seen<CheckBox>("Logs");
+    auto* const logs = seen<CheckBox>("Logs");
     logs->setFocus();
     auto& data = *std::get<ReadyContent>(ready.content).data;
     data.lists.at(0).rows.push_back({"/h/Kelmar/CDN", "CDN", "Models", true, {7, "CDN"}});
