@@ -1,3 +1,4 @@
+#include "admin/prompt_process.hpp"
 #include "app/command_line_tool.hpp"
 #include "app/window_application.hpp"
 #include "system/process_setup.hpp"
@@ -31,6 +32,9 @@ int main(int count, char** arguments) {
     }
     // A caller of execve(2) may pass no arguments at all, not even the program's name.
     const std::vector<std::string> options(arguments + (count > 0 ? 1 : 0), arguments + count);
+    if (const std::optional<int> status = kelmar::PromptProcess::run(options)) {
+        return *status;
+    }
     const std::optional<std::int32_t> status = kelmar::CommandLineTool::run(options);
     return status ? *status : kelmar::runWindowApplication();
 }

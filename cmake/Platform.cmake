@@ -1,19 +1,44 @@
-# The platform, as it stands in the names of platform sources: system/shell_linux.cpp. Everything that
+# The platform, as it stands in the names of platform sources: system/processes_linux.cpp. Everything that
 # a platform decides for the build is decided here, once.
 if(CMAKE_SYSTEM_NAME STREQUAL "Linux")
   set(KELMAR_PLATFORM linux)
+elseif(CMAKE_SYSTEM_NAME STREQUAL "Darwin")
+  set(KELMAR_PLATFORM macos)
+  enable_language(OBJCXX)
+  set(CMAKE_OBJCXX_STANDARD 20)
+  set(CMAKE_OBJCXX_STANDARD_REQUIRED ON)
+  set(CMAKE_OBJCXX_EXTENSIONS OFF)
+  set(CMAKE_OBJCXX_VISIBILITY_PRESET hidden)
 else()
   message(FATAL_ERROR "There are no platform sources for ${CMAKE_SYSTEM_NAME} yet.")
 endif()
 
+# Adds the platform's source of each seam to a room: C++, or Objective-C++ where only that will do.
+function(kelmar_platform_sources room)
+  foreach(seam IN LISTS ARGN)
+    set(source ${CMAKE_CURRENT_SOURCE_DIR}/${seam}_${KELMAR_PLATFORM}.mm)
+    if(NOT EXISTS ${source})
+      set(source ${CMAKE_CURRENT_SOURCE_DIR}/${seam}_${KELMAR_PLATFORM}.cpp)
+    endif()
+    target_sources(${room} PRIVATE ${source})
+  endforeach()
+endfunction()
+
 find_package(Threads REQUIRED)
 
-# libplist reads property lists on Linux. Distributions name the library after its interface version.
-find_path(PLIST_INCLUDE_DIR plist/plist.h REQUIRED)
-find_library(PLIST_LIBRARY NAMES plist-2.0 plist-2.0-4 plist REQUIRED)
-add_library(kelmar_plist INTERFACE)
-target_include_directories(kelmar_plist SYSTEM INTERFACE ${PLIST_INCLUDE_DIR})
-target_link_libraries(kelmar_plist INTERFACE ${PLIST_LIBRARY})
+# What the platform's sources lean on.
+add_library(kelmar_platform INTERFACE)
+if(KELMAR_PLATFORM STREQUAL "linux")
+  # libplist reads property lists. Distributions name the library after its interface version.
+  find_path(PLIST_INCLUDE_DIR plist/plist.h REQUIRED)
+  find_library(PLIST_LIBRARY NAMES plist-2.0 plist-2.0-4 plist REQUIRED)
+  add_library(kelmar_plist INTERFACE)
+  target_include_directories(kelmar_plist SYSTEM INTERFACE ${PLIST_INCLUDE_DIR})
+  target_link_libraries(kelmar_plist INTERFACE ${PLIST_LIBRARY})
+  target_link_libraries(kelmar_platform INTERFACE kelmar_plist)
+else()
+  target_link_libraries(kelmar_platform INTERFACE "-framework Foundation" "-framework AppKit")
+endif()
 
 # Start-up is half as long when the dynamic linker need not relocate the C++ library first, and the
 # executable then runs where that library is older or missing.

@@ -3,6 +3,7 @@
 #include "system/property_list.hpp"
 #include "system/utf16.hpp"
 #include "system/utf8.hpp"
+#include "system/xml_property_list.hpp"
 
 #include <plist/plist.h>
 
@@ -18,24 +19,6 @@ struct FreeNode {
 };
 
 using Node = std::unique_ptr<void, FreeNode>;
-
-/// libplist frees a tree by recursion, so the nesting must stay far below what a stack holds. An
-/// upper bound of the nesting is enough: no real version record has as many containers in all.
-constexpr std::size_t xmlContainerLimit = 10'000;
-
-std::size_t occurrences(std::string_view text, std::string_view word) {
-    std::size_t count = 0;
-    for (std::size_t at = text.find(word); at != std::string_view::npos;
-         at = text.find(word, at + word.size())) {
-        ++count;
-    }
-    return count;
-}
-
-bool isModestXml(std::string_view text) {
-    return text.find('\0') == std::string_view::npos &&
-           occurrences(text, "<array") + occurrences(text, "<dict") <= xmlContainerLimit;
-}
 
 std::optional<std::string> stringInDictionary(const Node& root, std::string_view key) {
     if (!root || ::plist_get_node_type(root.get()) != PLIST_DICT) {
@@ -63,7 +46,7 @@ std::optional<std::string> stringInBinary(std::string_view bytes, std::string_vi
 }
 
 std::optional<std::string> stringInXml(std::string_view text, std::string_view key) {
-    if (!isModestXml(text)) {
+    if (!isModestXmlPropertyList(text)) {
         return std::nullopt;
     }
     plist_t root = nullptr;

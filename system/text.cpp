@@ -12,13 +12,6 @@ std::string joined(const std::vector<std::string>& words, std::string_view separ
     return text;
 }
 
-std::string listed(const std::vector<std::string>& words) {
-    if (words.size() <= 2) {
-        return joined(words, " and ");
-    }
-    return joined({words.begin(), words.end() - 1}, ", ") + ", and " + words.back();
-}
-
 std::string trimmed(std::string_view text, std::string_view blank) {
     text.remove_prefix(std::min(text.find_first_not_of(blank), text.size()));
     text.remove_suffix(text.size() - (text.find_last_not_of(blank) + 1));

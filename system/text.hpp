@@ -9,9 +9,6 @@ namespace kelmar {
 /// `words` with `separator` between each two of them.
 std::string joined(const std::vector<std::string>& words, std::string_view separator);
 
-/// `words` as a sentence lists them: "a", "a and b", "a, b, and c". Empty without words.
-std::string listed(const std::vector<std::string>& words);
-
 /// `text` without the characters of `blank` at both of its ends: blanks and line ends, if none are
 /// named.
 std::string trimmed(std::string_view text, std::string_view blank = " \t\r\n\v\f");

@@ -22,19 +22,6 @@ TEST(Joined, KeepsEmptyAndRepeatedWords) {
     EXPECT_EQ(joined({"a", "a", "a"}, ""), "aaa");
 }
 
-TEST(Listed, IsASentencesList) {
-    EXPECT_EQ(listed({}), "");
-    EXPECT_EQ(listed({"a"}), "a");
-    EXPECT_EQ(listed({"a", "b"}), "a and b");
-    EXPECT_EQ(listed({"a", "b", "c"}), "a, b, and c");
-    EXPECT_EQ(listed({"a", "b", "c", "d"}), "a, b, c, and d");
-}
-
-TEST(Listed, TakesWordsAsTheyAre) {
-    EXPECT_EQ(listed({"salt and pepper", "x, y"}), "salt and pepper and x, y");
-    EXPECT_EQ(listed({"a", "a", "a"}), "a, a, and a");
-}
-
 TEST(Trimmed, LosesBlanksAndLineEndsAtBothEnds) {
     EXPECT_EQ(trimmed(" \t\r\n\v\ftext \t\r\n\v\f"), "text");
     EXPECT_EQ(trimmed("text"), "text");
