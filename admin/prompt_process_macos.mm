@@ -1,0 +1,85 @@
+#include "admin/apple_script_error.hpp"
+#include "admin/prompt_process.hpp"
+#include "admin/quoting.hpp"
+#include "system/foundation_text_macos.hpp"
+#include "system/processes.hpp"
+#include "system/resources.hpp"
+#include "system/retained_macos.hpp"
+#include "system/thread_name.hpp"
+
+#include <cstdio>
+#include <cstdlib>
+#include <thread>
+
+#include <sys/event.h>
+#include <unistd.h>
+
+namespace kelmar::PromptProcess {
+
+namespace {
+
+/// Anybody may start this program with any options, and a prompt in its name is believed. Only the
+/// program itself is answered, and only for the script that it ships with.
+bool isTrusted(const Request& request) {
+    const std::optional<std::string> mine = executablePath(::getpid());
+    return mine && executablePath(::getppid()) == mine &&
+           resourcePath("uninstall-as-admin.sh") == request.script;
+}
+
+/// Ends this process when the one that asked has ended: nobody would hear the answer, and nothing
+/// is to be removed for nobody. kqueue(2): a process that is gone already is an error at once.
+void endWith(pid_t parent) {
+    nameThisThread("parent");
+    struct kevent event {};
+
+    EV_SET(&event, parent, EVFILT_PROC, EV_ADD | EV_ONESHOT, NOTE_EXIT, 0, nullptr);
+    const int queue = ::kqueue();
+    if (queue >= 0) {
+        ::kevent(queue, &event, 1, &event, 1, nullptr);
+    }
+    ::_exit(EXIT_FAILURE);
+}
+
+AdministratorError errorIn(NSDictionary* information) {
+    id const number = [information objectForKey:NSAppleScriptErrorNumber];
+    id const message = [information objectForKey:NSAppleScriptErrorMessage];
+    const bool isNumber = [number isKindOfClass:[NSNumber class]];
+    const bool isText = [message isKindOfClass:[NSString class]];
+    return administratorError(
+        isNumber ? std::optional<std::int64_t>([number longLongValue]) : std::nullopt,
+        isText ? std::optional(plainText(message)) : std::nullopt);
+}
+
+std::optional<AdministratorError> ask(const Request& request) {
+    std::vector<std::string> words{"/bin/bash", request.script};
+    words.insert(words.end(), request.arguments.begin(), request.arguments.end());
+    NSString* const source =
+        foundationText(administratorAppleScript(shellCommand(words), request.reason));
+    const auto script =
+        Retained<NSAppleScript>::adopt([[NSAppleScript alloc] initWithSource:source]);
+    if (script.get() == nil || ![script.get() compileAndReturnError:NULL]) {
+        return AdministratorError::failed("could not prepare the password prompt");
+    }
+    NSDictionary* error = nil;
+    NSAppleEventDescriptor* const result = [script.get() executeAndReturnError:&error];
+    // The result decides, as everywhere in Foundation: the error means something only without one.
+    return result != nil ? std::nullopt : std::optional(errorIn(error));
+}
+
+} // namespace
+
+std::optional<int> run(const std::vector<std::string>& options) {
+    const std::optional<Request> asked = request(options);
+    if (!asked || !isTrusted(*asked)) {
+        return std::nullopt;
+    }
+    std::thread(endWith, ::getppid()).detach();
+    @autoreleasepool {
+        const std::string answer = report(asked->marker, ask(*asked));
+        std::fwrite(answer.data(), 1, answer.size(), stdout);
+        std::fflush(stdout);
+    }
+    return EXIT_SUCCESS;
+}
+
+} // namespace kelmar::PromptProcess

@@ -1,0 +1,14 @@
+#include "system/byte_count.hpp"
+#include "system/foundation_text_macos.hpp"
+
+namespace kelmar {
+
+std::string byteCountText(std::int64_t bytes) {
+    @autoreleasepool {
+        return plainText([NSByteCountFormatter
+            stringFromByteCount:bytes
+                     countStyle:NSByteCountFormatterCountStyleFile]);
+    }
+}
+
+} // namespace kelmar

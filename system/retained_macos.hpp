@@ -1,0 +1,43 @@
+#pragma once
+
+#include <utility>
+
+#import <Foundation/Foundation.h>
+
+namespace kelmar {
+
+/// Owns one reference to an Objective-C object, or none (nil). The sources are compiled without
+/// automatic reference counting, so what outlives the pool around a call is held in one of these.
+template <typename Object>
+class Retained {
+public:
+    Retained() = default;
+
+    /// Takes over the reference that `alloc`, `new` or `copy` gave the caller.
+    static Retained adopt(Object* object) {
+        Retained retained;
+        retained.object_ = object;
+        return retained;
+    }
+
+    /// Takes a reference of its own.
+    static Retained retain(Object* object) { return adopt([object retain]); }
+
+    Retained(const Retained& other) : object_([other.object_ retain]) {}
+
+    Retained(Retained&& other) noexcept : object_(std::exchange(other.object_, nullptr)) {}
+
+    Retained& operator=(Retained other) noexcept {
+        std::swap(object_, other.object_);
+        return *this;
+    }
+
+    ~Retained() { [object_ release]; }
+
+    [[nodiscard]] Object* get() const { return object_; }
+
+private:
+    Object* object_ = nullptr;
+};
+
+} // namespace kelmar
