@@ -1,7 +1,7 @@
 #pragma once
 
 #include "ui/page.hpp"
-#include "ui/qt/window_actions.hpp"
+#include "ui/window_actions.hpp"
 
 #include <QScrollArea>
 #include <array>

@@ -3,7 +3,7 @@
 #include "ui/page.hpp"
 #include "ui/qt/folder_list_widget.hpp"
 #include "ui/qt/section.hpp"
-#include "ui/qt/window_actions.hpp"
+#include "ui/window_actions.hpp"
 
 namespace kelmar {
 

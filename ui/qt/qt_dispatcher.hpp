@@ -1,11 +1,10 @@
 #pragma once
 
 #include "ui/dispatcher.hpp"
+#include "ui/main_thread_jobs.hpp"
 
 #include <QBasicTimer>
 #include <QObject>
-#include <atomic>
-#include <deque>
 
 namespace kelmar {
 
@@ -16,7 +15,7 @@ public:
     QtDispatcher() = default;
     QtDispatcher(const QtDispatcher&) = delete;
     QtDispatcher& operator=(const QtDispatcher&) = delete;
-    ~QtDispatcher() override;
+    ~QtDispatcher() override = default;
 
     /// Jobs run in the order in which they were posted, but no more at a time than leave the event
     /// loop able to draw and to answer.
@@ -25,18 +24,11 @@ public:
     void utility(Job job) override;
 
 private:
-    struct Posted {
-        Job job;
-        Posted* earlier;
-    };
-
     bool event(QEvent* event) override;
     void timerEvent(QTimerEvent* event) override;
-    void takePosted();
 
-    std::atomic<Posted*> posted_{nullptr}; ///< the latest first
-    std::deque<Job> waiting_;              ///< for the main thread alone, the earliest first
-    QBasicTimer turn_;                     ///< runs while jobs wait: fires once a turn
+    MainThreadJobs jobs_;
+    QBasicTimer turn_; ///< runs while jobs wait: fires once a turn
 };
 
 } // namespace kelmar
