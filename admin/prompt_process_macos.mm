@@ -30,6 +30,7 @@ bool isTrusted(const Request& request) {
 /// is to be removed for nobody. kqueue(2): a process that is gone already is an error at once.
 void endWith(pid_t parent) {
     nameThisThread("parent");
+
     struct kevent event {};
 
     EV_SET(&event, parent, EVFILT_PROC, EV_ADD | EV_ONESHOT, NOTE_EXIT, 0, nullptr);
@@ -45,9 +46,9 @@ AdministratorError errorIn(NSDictionary* information) {
     id const message = [information objectForKey:NSAppleScriptErrorMessage];
     const bool isNumber = [number isKindOfClass:[NSNumber class]];
     const bool isText = [message isKindOfClass:[NSString class]];
-    return administratorError(
-        isNumber ? std::optional<std::int64_t>([number longLongValue]) : std::nullopt,
-        isText ? std::optional(plainText(message)) : std::nullopt);
+    return administratorError(isNumber ? std::optional<std::int64_t>([number longLongValue])
+                                       : std::nullopt,
+                              isText ? std::optional(plainText(message)) : std::nullopt);
 }
 
 std::optional<AdministratorError> ask(const Request& request) {

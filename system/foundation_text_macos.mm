@@ -1,12 +1,12 @@
 #include "system/foundation_text_macos.hpp"
+
 #include "system/utf8.hpp"
 
 namespace kelmar {
 
 NSString* foundationText(std::string_view text) {
     const std::string sound = decodeUtf8(text);
-    NSString* const made = [[[NSString alloc] initWithBytes:sound.data()
-                                                     length:sound.size()
+    NSString* const made = [[[NSString alloc] initWithBytes:sound.data() length:sound.size()
                                                    encoding:NSUTF8StringEncoding] autorelease];
     return made != nil ? made : @"";
 }

@@ -9,10 +9,10 @@ namespace kelmar {
 
 namespace {
 
-constexpr std::ptrdiff_t oldStyleContainerLimit = 1'000;
+constexpr std::ptrdiff_t oldStyleContainerLimit = 64;
 
-/// The system's reader goes down a tree by recursion, and threads of a queue have half a megabyte of
-/// stack. Null characters stand beside those of tags in UTF-16 and UTF-32, and nowhere else.
+/// The system's reader goes down a tree by recursion, and threads of a queue have half a megabyte
+/// of stack. Null characters stand beside those of tags in UTF-16 and UTF-32, and nowhere else.
 bool isModest(std::string_view bytes) {
     if (bytes.starts_with("bplist")) {
         return isModestBinaryPropertyList(bytes);

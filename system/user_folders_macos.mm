@@ -5,7 +5,8 @@ namespace kelmar {
 
 std::string homeFolder() {
     @autoreleasepool {
-        // By name, as the account database has it: the process's own notion follows the environment.
+        // By name, as the account database has it: the process's own notion follows the
+        // environment.
         const std::string byName = plainText(NSHomeDirectoryForUser(NSUserName()));
         const std::string home = byName.empty() ? plainText(NSHomeDirectory()) : byName;
         return home.starts_with('/') ? home : "/";

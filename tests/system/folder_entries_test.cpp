@@ -20,6 +20,11 @@ namespace fs = std::filesystem;
 
 using Read = FolderReading (*)(int, const std::function<bool(const FolderEntry&)>&);
 
+void makeFile(const std::string& path, const char* text = "") {
+    std::ofstream file(path);
+    file << text;
+}
+
 Descriptor opened(const std::string& path) {
     return Descriptor(::open(path.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC));
 }
@@ -40,45 +45,44 @@ protected:
         return entries;
     }
 
-    test::TemporaryFolder folder_;
+    test::TemporaryFolder root;
 };
 
 TEST_P(FolderEntries, AreWhatLstatSaysOfEach) {
-    fs::create_directory(folder_ / "folder");
-    std::ofstream(folder_ / "file");
-    std::ofstream(folder_ / ".hidden");
-    fs::create_directory_symlink("folder", folder_ / "link to a folder");
-    fs::create_symlink("nowhere", folder_ / "dangling");
-    ASSERT_EQ(::mkfifo((folder_ / "pipe").c_str(), 0600), 0);
+    fs::create_directory(root / "folder");
+    makeFile(root / "file");
+    makeFile(root / ".hidden");
+    fs::create_directory_symlink("folder", root / "link to a folder");
+    fs::create_symlink("nowhere", root / "dangling");
+    ASSERT_EQ(::mkfifo((root / "pipe").c_str(), 0600), 0);
     const uid_t me = ::getuid();
-    EXPECT_EQ(seen(folder_.path()), (Seen{{"folder", {me, true}},
-                                          {"file", {me, false}},
-                                          {".hidden", {me, false}},
-                                          {"link to a folder", {me, false}},
-                                          {"dangling", {me, false}},
-                                          {"pipe", {me, false}}}));
+    EXPECT_EQ(seen(root.path()), (Seen{{"folder", {me, true}},
+                                       {"file", {me, false}},
+                                       {".hidden", {me, false}},
+                                       {"link to a folder", {me, false}},
+                                       {"dangling", {me, false}},
+                                       {"pipe", {me, false}}}));
 }
 
 TEST_P(FolderEntries, OfAnotherUserAreHis) {
-    std::ofstream(folder_ / "his");
-    if (::lchown((folder_ / "his").c_str(), 12'345, static_cast<gid_t>(-1)) != 0) {
+    makeFile(root / "his");
+    if (::lchown((root / "his").c_str(), 12'345, static_cast<gid_t>(-1)) != 0) {
         GTEST_SKIP() << "only root can give a file away";
     }
-    EXPECT_EQ(seen(folder_.path()), (Seen{{"his", {12'345, false}}}));
+    EXPECT_EQ(seen(root.path()), (Seen{{"his", {12'345, false}}}));
 }
 
 TEST_P(FolderEntries, ComeCompleteFromABigFolder) {
     for (int number = 0; number < 3'000; ++number) {
-        std::ofstream(folder_ /
-                      ("a name of some length, to fill buffers " + std::to_string(number)));
+        std::ofstream(root / ("a name of some length, to fill buffers " + std::to_string(number)));
     }
-    EXPECT_EQ(seen(folder_.path()).size(), 3'000U);
+    EXPECT_EQ(seen(root.path()).size(), 3'000U);
 }
 
 TEST_P(FolderEntries, StopWhenTheVisitorHasSeenEnough) {
-    std::ofstream(folder_ / "a");
-    std::ofstream(folder_ / "b");
-    const Descriptor folder = opened(folder_.path());
+    makeFile(root / "a");
+    makeFile(root / "b");
+    const Descriptor folder = opened(root.path());
     int visits = 0;
     const auto visit = [&visits](const FolderEntry&) { return ++visits < 1; };
     EXPECT_EQ(GetParam()(folder.get(), visit), FolderReading::stopped);
@@ -86,14 +90,14 @@ TEST_P(FolderEntries, StopWhenTheVisitorHasSeenEnough) {
 }
 
 TEST_P(FolderEntries, LeaveTheDescriptorOpen) {
-    const Descriptor folder = opened(folder_.path());
+    const Descriptor folder = opened(root.path());
     GetParam()(folder.get(), [](const FolderEntry&) { return true; });
     EXPECT_NE(::fcntl(folder.get(), F_GETFD), -1);
 }
 
 TEST_P(FolderEntries, AreNotReadFromWhatIsNoFolder) {
-    std::ofstream(folder_ / "file") << "text";
-    const Descriptor file(::open((folder_ / "file").c_str(), O_RDONLY | O_CLOEXEC));
+    makeFile(root / "file", "text");
+    const Descriptor file(::open((root / "file").c_str(), O_RDONLY | O_CLOEXEC));
     const auto visit = [](const FolderEntry&) { return true; };
     EXPECT_EQ(GetParam()(file.get(), visit), FolderReading::failed);
     EXPECT_EQ(GetParam()(-1, visit), FolderReading::failed);

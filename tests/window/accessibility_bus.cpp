@@ -108,6 +108,7 @@ AccessibilityBus::AccessibilityBus() {
     answerForTheSession(address_);
 }
 
+// NOLINTNEXTLINE(*-convert-member-functions-to-static): only an instance has made the bus
 Accessible AccessibilityBus::program(pid_t process) const {
     takeEvents();
     AtspiAccessible* const desktop = atspi_get_desktop(0);

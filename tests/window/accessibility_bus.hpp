@@ -26,7 +26,6 @@ public:
     [[nodiscard]] const std::string& address() const { return address_; }
 
     /// What the program of that process shows; null until it shows anything.
-    // NOLINTNEXTLINE(*-convert-member-functions-to-static): only an instance has made the bus
     [[nodiscard]] Accessible program(pid_t process) const;
 
     /// Takes in what programs have announced since the last time.
