@@ -1,0 +1,157 @@
+#include "ui/appkit/app_delegate.h"
+
+#include "system/foundation_text_macos.hpp"
+#include "system/retained_macos.hpp"
+#include "ui/appkit/confirmation_sheet.h"
+#include "ui/appkit/from_toolkit.hpp"
+#include "ui/appkit/main_menu.h"
+#include "ui/appkit/metrics.hpp"
+#include "ui/appkit/page_view.h"
+#include "ui/appkit/queue_dispatcher.hpp"
+#include "ui/appkit/run_loop_modes.h"
+
+namespace kelmar {
+
+/// What the delegate owns.
+struct WindowState {
+    WindowState(const KelmarPaths& paths, const UninstallerModel::Sources& sources)
+        : model(std::make_shared<UninstallerModel>(paths, std::make_shared<QueueDispatcher>(),
+                                                   sources)),
+          view(model, [] { [NSApp terminate:nil]; }) {}
+
+    std::shared_ptr<UninstallerModel> model;
+    UninstallerView view;
+    const WindowActions actions{
+        [this](Action action) { view.perform(action); },
+        [this](bool all) { view.setDeleteAllData(all); },
+        [this](const std::string& path, bool selected) { view.setSelected(path, selected); }};
+    Retained<NSWindow> window;
+    Retained<KelmarConfirmationSheet> sheet;
+    KelmarPageView* page = nil; ///< the window's content
+    bool renderIsDue = false;   ///< in the next turn of the run loop
+};
+
+namespace {
+
+NSWindow* makeWindow() {
+    const NSRect frame = NSMakeRect(0, 0, Metrics::windowWidth, Metrics::windowHeight);
+    const NSWindowStyleMask style =
+        NSWindowStyleMaskTitled | NSWindowStyleMaskClosable | NSWindowStyleMaskMiniaturizable;
+    NSWindow* const window = [[NSWindow alloc] initWithContentRect:frame styleMask:style
+                                                           backing:NSBackingStoreBuffered
+                                                             defer:NO];
+    [window setReleasedWhenClosed:NO];
+    return window;
+}
+
+} // namespace
+
+} // namespace kelmar
+
+@implementation AppDelegate
+
+- (instancetype)init {
+    return [self initWithPaths:kelmar::KelmarPaths::current() sources:{}];
+}
+
+- (instancetype)initWithPaths:(const kelmar::KelmarPaths&)paths
+                      sources:(const kelmar::UninstallerModel::Sources&)sources {
+    self = [super init];
+    if (self != nil) {
+        state_ = new kelmar::WindowState(paths, sources);
+        state_->view.observe([self] { [self renderSoon]; });
+    }
+    return self;
+}
+
+- (void)dealloc {
+    state_->view.observe([] {});
+    [NSObject cancelPreviousPerformRequestsWithTarget:self];
+    [state_->window.get() setDelegate:nil];
+    delete state_;
+    [super dealloc];
+}
+
+- (kelmar::UninstallerModel&)model {
+    return *state_->model;
+}
+
+- (kelmar::UninstallerView&)view {
+    return state_->view;
+}
+
+- (NSWindow*)window {
+    return state_->window.get();
+}
+
+- (void)applicationDidFinishLaunching:(NSNotification*)notification {
+    static_cast<void>(notification);
+    kelmar::fromToolkit([self] {
+        kelmar::installMainMenu(NSApp, kelmar::mainMenu());
+        [self openWindow];
+        [NSApp activateIgnoringOtherApps:YES];
+        state_->model->scan();
+    });
+}
+
+- (void)openWindow {
+    state_->window = kelmar::Retained<NSWindow>::adopt(kelmar::makeWindow());
+    NSWindow* const window = state_->window.get();
+    const NSSize size = NSMakeSize(kelmar::Metrics::windowWidth, kelmar::Metrics::windowHeight);
+    state_->page = [KelmarPageView viewWithActions:&state_->actions
+                                             frame:NSMakeRect(0, 0, size.width, size.height)];
+    state_->sheet = kelmar::Retained<KelmarConfirmationSheet>::adopt(
+        [[KelmarConfirmationSheet alloc] initWithActions:&state_->actions window:window]);
+    [window setContentView:state_->page];
+    [window setContentSize:size];
+    [window setTitle:@"Kelmar Uninstaller"];
+    [window setRestorable:NO];
+    [window setDelegate:self];
+    [window setAutorecalculatesKeyViewLoop:YES];
+    [self render];
+    [window center];
+    [window makeKeyAndOrderFront:nil];
+}
+
+/// What changes is seen only after this call; and many changes make one picture.
+- (void)renderSoon {
+    if (!state_->renderIsDue) {
+        state_->renderIsDue = true;
+        [self performSelector:@selector(render) withObject:nil afterDelay:0
+                      inModes:kelmar::everyRunLoopMode()];
+    }
+}
+
+- (void)render {
+    kelmar::fromToolkit([self] {
+        state_->renderIsDue = false;
+        if (state_->page != nil) {
+            const kelmar::Page page = state_->view.page();
+            [state_->page render:page];
+            [state_->sheet.get() render:page.confirmation];
+        }
+    });
+}
+
+- (BOOL)applicationShouldTerminateAfterLastWindowClosed:(NSApplication*)application {
+    static_cast<void>(application);
+    return YES;
+}
+
+- (NSApplicationTerminateReply)applicationShouldTerminate:(NSApplication*)application {
+    static_cast<void>(application);
+    return state_->model->isWorking() ? NSTerminateCancel : NSTerminateNow;
+}
+
+- (BOOL)windowShouldClose:(NSWindow*)window {
+    static_cast<void>(window);
+    return state_->model->isWorking() ? NO : YES;
+}
+
+/// There is no state to restore, and the system is to know that it would be safe.
+- (BOOL)applicationSupportsSecureRestorableState:(NSApplication*)application {
+    static_cast<void>(application);
+    return YES;
+}
+
+@end

@@ -1,0 +1,36 @@
+#pragma once
+
+#include "ui/appkit/card_view.h"
+#include "ui/appkit/size_label.h"
+#include "ui/window_actions.hpp"
+
+/// One folder to be chosen: a check box with its name, what is in it, its size.
+@interface KelmarFolderRow : KelmarFlippedView {
+    const kelmar::WindowActions* actions_;
+    std::string* path_; ///< its own bytes: a text would have lost some
+    NSButton* check_;
+    KelmarTextLabel* summary_;
+    KelmarSizeLabel* size_;
+}
+
+/// `actions` outlive the row.
++ (instancetype)rowWithActions:(const kelmar::WindowActions*)actions;
+
+- (void)render:(const kelmar::FolderRow&)row;
+
+@end
+
+/// The folders of one data root, under a line and a heading.
+@interface KelmarFolderList : KelmarFlippedView {
+    const kelmar::WindowActions* actions_;
+    KelmarHairline* divider_;
+    KelmarTextLabel* heading_;
+    KelmarTextLabel* others_;
+    NSMutableArray* rows_;
+}
+
++ (instancetype)listWithActions:(const kelmar::WindowActions*)actions;
+
+- (void)render:(const kelmar::FolderList&)list;
+
+@end

@@ -1,0 +1,81 @@
+#include "ui/appkit/found_section.h"
+
+#include "ui/appkit/metrics.hpp"
+#include "ui/appkit/row_list.h"
+
+#include <algorithm>
+#include <variant>
+
+@implementation KelmarFoundRow
+
++ (instancetype)row {
+    KelmarFoundRow* const row = [[[self alloc] initWithFrame:NSZeroRect] autorelease];
+    row->divider_ = [KelmarHairline line];
+    row->icon_ = [KelmarIconView icon];
+    row->title_ = [KelmarTextLabel labelWithStyle:kelmar::TextStyle::body
+                                             tone:kelmar::TextTone::primary];
+    row->detail_ = [KelmarTextLabel labelWithStyle:kelmar::TextStyle::callout
+                                              tone:kelmar::TextTone::secondary];
+    [row addSubview:row->divider_];
+    [row addSubview:row->icon_];
+    [row addSubview:row->title_];
+    [row addSubview:row->detail_];
+    return row;
+}
+
+- (void)setFirst:(BOOL)first {
+    [divider_ setHidden:first];
+}
+
+- (void)render:(const kelmar::FoundRow&)row {
+    if (const auto* const symbol = std::get_if<kelmar::FoundRow::Symbol>(&row.icon)) {
+        [icon_ showSymbol:symbol->name tint:kelmar::Tint::secondary
+                pointSize:kelmar::Metrics::rowSymbol];
+    } else {
+        [icon_ showIconOfFile:std::get<kelmar::FoundRow::Image>(row.icon).path];
+    }
+    [title_ showText:row.title];
+    [detail_ showText:row.detail];
+}
+
+- (CGFloat)layOutForWidth:(CGFloat)width {
+    using namespace kelmar::Metrics;
+    const CGFloat text = dividerIndent;
+    const CGFloat textWidth = width - text - cardPadding;
+    kelmar::setFrame(divider_, NSMakeRect(dividerIndent, 0, width - dividerIndent, 1));
+    CGFloat below = kelmar::place(title_, text, rowPadding, textWidth);
+    below = kelmar::place(detail_, text, below + textGap, textWidth) + rowPadding;
+    const CGFloat height = std::max<CGFloat>(below, rowIcon + 2 * rowPadding);
+    kelmar::setFrame(icon_, NSMakeRect(cardPadding, (height - rowIcon) / 2, rowIcon, rowIcon));
+    return height;
+}
+
+@end
+
+@implementation KelmarFoundSection
+
+- (void)dealloc {
+    [rows_ release];
+    [super dealloc];
+}
+
+- (void)render:(const kelmar::FoundSection&)section {
+    if (rows_ == nil) {
+        rows_ = [[NSMutableArray alloc] init];
+    }
+    [self showTitle:section.title.text];
+    kelmar::renderRows<KelmarFoundRow>(
+        [self card], rows_, section.rows, [] { return [KelmarFoundRow row]; },
+        [](KelmarFoundRow* row, const kelmar::FoundRow& record) { [row render:record]; });
+}
+
+- (CGFloat)layOutCardForWidth:(CGFloat)width {
+    CGFloat below = 0;
+    for (KelmarFoundRow* row in rows_) {
+        [row setFirst:below == 0 ? YES : NO];
+        below = kelmar::place(row, 0, below, width);
+    }
+    return below;
+}
+
+@end

@@ -1,0 +1,95 @@
+#include "ui/appkit/log_view.h"
+
+#include "system/foundation_text_macos.hpp"
+
+namespace kelmar {
+
+namespace {
+
+constexpr CGFloat unlimited = 10'000'000;
+
+NSTextView* makeTextView(NSSize size) {
+    NSTextView* const text =
+        [[[NSTextView alloc] initWithFrame:NSMakeRect(0, 0, size.width, size.height)] autorelease];
+    [text setEditable:NO];
+    [text setSelectable:YES];
+    [text setRichText:NO];
+    [text setDrawsBackground:NO];
+    [text setVerticallyResizable:YES];
+    [text setHorizontallyResizable:NO];
+    [text setAutoresizingMask:NSViewWidthSizable];
+    [text setMinSize:NSMakeSize(0, 0)];
+    [text setMaxSize:NSMakeSize(unlimited, unlimited)];
+    [text setTextContainerInset:NSMakeSize(6, 8)];
+    [[text textContainer] setWidthTracksTextView:YES];
+    // Lines that nobody looks at are not laid out until somebody does.
+    [[text layoutManager] setAllowsNonContiguousLayout:YES];
+    return text;
+}
+
+NSAttributedString* recordText(const std::string& text) {
+    NSDictionary* const attributes = [NSDictionary
+        dictionaryWithObjectsAndKeys:[NSFont monospacedSystemFontOfSize:11
+                                                                 weight:NSFontWeightRegular],
+                                     NSFontAttributeName, [NSColor textColor],
+                                     NSForegroundColorAttributeName, nil];
+    return [[[NSAttributedString alloc] initWithString:foundationText(text)
+                                            attributes:attributes] autorelease];
+}
+
+} // namespace
+
+} // namespace kelmar
+
+@implementation KelmarLogView
+
++ (instancetype)log {
+    KelmarLogView* const view =
+        [[[self alloc] initWithFrame:NSMakeRect(0, 0, 100, 100)] autorelease];
+    view->shown_ = new kelmar::LogLines;
+    view->text_ = kelmar::makeTextView([view contentSize]);
+    [view setDrawsBackground:NO];
+    [view setBorderType:NSNoBorder];
+    [view setHasVerticalScroller:YES];
+    [view setHasHorizontalScroller:NO];
+    [view setAutohidesScrollers:YES];
+    [view setDocumentView:view->text_];
+    return view;
+}
+
+- (void)dealloc {
+    delete shown_;
+    [super dealloc];
+}
+
+/// Whether the last line is to be seen, or the next one would be.
+- (BOOL)isAtEnd {
+    const NSRect seen = [[self contentView] documentVisibleRect];
+    return NSMaxY(seen) >= NSMaxY([text_ frame]) - 1;
+}
+
+- (void)render:(const kelmar::LogLines&)log {
+    const bool grows = log.continues(*shown_) && log.size() >= shown_->size();
+    if (grows && log.size() == shown_->size()) {
+        return;
+    }
+    const BOOL follows = [self isAtEnd];
+    NSTextStorage* const storage = [text_ textStorage];
+    if (!grows) {
+        *shown_ = kelmar::LogLines();
+        [storage replaceCharactersInRange:NSMakeRange(0, [storage length]) withString:@""];
+    }
+    const std::string separator = shown_->empty() ? "" : "\n";
+    // At the end of the text, where no selection and no line that is seen can be: they stay.
+    [storage appendAttributedString:kelmar::recordText(separator + log.text(shown_->size()))];
+    *shown_ = log;
+    if (follows) {
+        [text_ scrollRangeToVisible:NSMakeRange([storage length], 0)];
+    }
+}
+
+- (void)setName:(const std::string&)name {
+    [text_ setAccessibilityLabel:kelmar::foundationText(name)];
+}
+
+@end

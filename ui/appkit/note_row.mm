@@ -1,0 +1,51 @@
+#include "ui/appkit/note_row.h"
+
+#include "system/foundation_text_macos.hpp"
+#include "ui/appkit/metrics.hpp"
+
+#include <algorithm>
+
+@implementation KelmarNoteRow
+
++ (instancetype)rowWithSymbolSize:(CGFloat)size
+                            style:(kelmar::TextStyle)style
+                             tone:(kelmar::TextTone)tone {
+    KelmarNoteRow* const row = [[[self alloc] initWithFrame:NSZeroRect] autorelease];
+    row->symbolSize_ = size;
+    row->icon_ = [KelmarIconView icon];
+    row->text_ = [KelmarTextLabel labelWithStyle:style tone:tone];
+    [row addSubview:row->icon_];
+    [row addSubview:row->text_];
+    return row;
+}
+
+- (void)showSymbol:(const std::string&)symbol
+              tint:(kelmar::Tint)tint
+              text:(const std::string&)text {
+    [icon_ showSymbol:symbol tint:tint pointSize:symbolSize_];
+    [text_ showText:text];
+}
+
+- (void)renderNote:(const kelmar::FooterNote&)note {
+    [self showSymbol:note.symbol tint:kelmar::Tint::secondary text:note.text];
+    NSString* const help = kelmar::foundationText(note.help);
+    [self setToolTip:help];
+    [text_ setAccessibilityHelp:help];
+}
+
+- (void)renderSummary:(const kelmar::SummaryRow&)row {
+    [self showSymbol:row.symbol tint:row.tint text:row.text];
+}
+
+- (CGFloat)layOutForWidth:(CGFloat)width {
+    const CGFloat text = symbolSize_ + kelmar::Metrics::partGap;
+    const CGFloat textHeight = [text_ heightForWidth:width - text];
+    const CGFloat height = std::max(symbolSize_, textHeight);
+    // A single line stands at the symbol's middle, more of them begin beside it.
+    const CGFloat top = textHeight <= symbolSize_ ? (symbolSize_ - textHeight) / 2 : 0;
+    kelmar::setFrame(icon_, NSMakeRect(0, 0, symbolSize_, symbolSize_));
+    kelmar::place(text_, text, top, width - text);
+    return height;
+}
+
+@end

@@ -1,0 +1,89 @@
+#include "ui/appkit/progress_section.h"
+
+#include "system/foundation_text_macos.hpp"
+#include "ui/appkit/metrics.hpp"
+#include "ui/appkit/row_list.h"
+#include "ui/appkit/spinner.h"
+
+#include <algorithm>
+
+@implementation KelmarProgressRow
+
++ (instancetype)row {
+    KelmarProgressRow* const row = [[[self alloc] initWithFrame:NSZeroRect] autorelease];
+    row->icon_ = [KelmarIconView icon];
+    row->spinner_ = kelmar::makeSpinner();
+    row->title_ = [KelmarTextLabel labelWithStyle:kelmar::TextStyle::body
+                                             tone:kelmar::TextTone::primary];
+    [row addSubview:row->icon_];
+    [row addSubview:row->spinner_];
+    [row addSubview:row->title_];
+    return row;
+}
+
+- (void)render:(const kelmar::ProgressRow&)row {
+    const bool running = !row.icon.symbol;
+    kelmar::setSpinning(spinner_, running);
+    [icon_ setHidden:running ? YES : NO];
+    if (running) {
+        [spinner_ setAccessibilityLabel:kelmar::foundationText(row.icon.label)];
+    } else {
+        [icon_ showSymbol:*row.icon.symbol tint:row.icon.tint
+                pointSize:kelmar::Metrics::noteSymbol];
+        [icon_ setMeaning:row.icon.label];
+    }
+    [title_ showText:row.title];
+}
+
+- (CGFloat)layOutForWidth:(CGFloat)width {
+    using namespace kelmar::Metrics;
+    const CGFloat text = rowSymbol + partGap;
+    const CGFloat textHeight = [title_ heightForWidth:width - text];
+    const CGFloat height = std::max<CGFloat>(rowSymbol, textHeight);
+    const CGFloat middle = (height - rowSymbol) / 2;
+    const CGFloat inset = (rowSymbol - spinner) / 2;
+    kelmar::setFrame(icon_, NSMakeRect(0, middle, rowSymbol, rowSymbol));
+    kelmar::setFrame(spinner_, NSMakeRect(inset, middle + inset, spinner, spinner));
+    kelmar::place(title_, text, (height - textHeight) / 2, width - text);
+    return height;
+}
+
+@end
+
+@implementation KelmarProgressSection
+
+- (void)dealloc {
+    [rows_ release];
+    [super dealloc];
+}
+
+- (void)render:(const kelmar::WorkingContent&)content {
+    if (rows_ == nil) {
+        rows_ = [[NSMutableArray alloc] init];
+        detail_ = [KelmarTextLabel labelWithStyle:kelmar::TextStyle::callout
+                                             tone:kelmar::TextTone::secondary];
+        [[self card] addSubview:detail_];
+        [self showTitle:""];
+    }
+    kelmar::renderRows<KelmarProgressRow>(
+        [self card], rows_, content.stages, [] { return [KelmarProgressRow row]; },
+        [](KelmarProgressRow* row, const kelmar::ProgressRow& record) { [row render:record]; });
+    [detail_ showText:content.detail];
+}
+
+- (CGFloat)layOutCardForWidth:(CGFloat)width {
+    using namespace kelmar::Metrics;
+    const CGFloat inside = width - 2 * cardPadding;
+    CGFloat below = 0;
+    for (KelmarProgressRow* row in rows_) {
+        below = kelmar::place(row, cardPadding, below + cardPadding, inside);
+    }
+    // Room for two lines of what is going on, so that the page below stands still meanwhile.
+    const CGFloat indent = cardPadding + rowSymbol + partGap;
+    const CGFloat least = 2 * 16;
+    const CGFloat top = below + cardPadding;
+    const CGFloat end = kelmar::place(detail_, indent, top, width - indent - cardPadding);
+    return std::max(end, top + least) + cardPadding;
+}
+
+@end

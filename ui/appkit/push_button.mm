@@ -1,0 +1,64 @@
+#include "ui/appkit/push_button.h"
+
+#include "system/foundation_text_macos.hpp"
+#include "ui/appkit/from_toolkit.hpp"
+
+namespace kelmar {
+
+NSString* keyEquivalentOf(ButtonKey key) {
+    switch (key) {
+    case ButtonKey::defaultAction:
+    case ButtonKey::both:
+        return @"\r";
+    case ButtonKey::cancelAction:
+        return @"\033";
+    case ButtonKey::none:
+        break;
+    }
+    return @"";
+}
+
+} // namespace kelmar
+
+@implementation KelmarPushButton
+
++ (instancetype)buttonWithActions:(const kelmar::WindowActions*)actions {
+    KelmarPushButton* const button = [[[self alloc] initWithFrame:NSZeroRect] autorelease];
+    button->actions_ = actions;
+    [button setBezelStyle:NSBezelStyleRounded];
+    [button setButtonType:NSButtonTypeMomentaryPushIn];
+    [button setTarget:button];
+    [button setAction:@selector(press:)];
+    return button;
+}
+
+- (void)render:(const kelmar::Button&)button {
+    action_ = button.action;
+    NSString* const title = kelmar::foundationText(button.text);
+    if (![[self title] isEqualToString:title]) {
+        [self setTitle:title];
+        [self sizeToFit];
+    }
+    NSString* const key = kelmar::keyEquivalentOf(button.key);
+    if (![[self keyEquivalent] isEqualToString:key]) {
+        [self setKeyEquivalent:key];
+    }
+    [self setEnabled:button.enabled ? YES : NO];
+    [self setHasDestructiveAction:button.destructive ? YES : NO];
+}
+
+- (void)press:(id)sender {
+    static_cast<void>(sender);
+    // A copy: what the press does may render the button anew.
+    kelmar::fromToolkit([actions = actions_, action = action_] { actions->perform(action); });
+}
+
+/// A key that is held down answers one question, and not the next one as well.
+- (BOOL)performKeyEquivalent:(NSEvent*)event {
+    if ([event type] == NSEventTypeKeyDown && [event isARepeat]) {
+        return [[event charactersIgnoringModifiers] isEqualToString:[self keyEquivalent]];
+    }
+    return [super performKeyEquivalent:event];
+}
+
+@end

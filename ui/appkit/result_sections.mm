@@ -1,0 +1,100 @@
+#include "ui/appkit/result_sections.h"
+
+#include "ui/appkit/metrics.hpp"
+#include "ui/appkit/note_row.h"
+#include "ui/appkit/row_list.h"
+
+@implementation KelmarSummarySection
+
+- (void)dealloc {
+    [rows_ release];
+    [super dealloc];
+}
+
+- (void)render:(const std::vector<kelmar::SummaryRow>&)rows {
+    if (rows_ == nil) {
+        rows_ = [[NSMutableArray alloc] init];
+        [self showTitle:""];
+    }
+    const auto make = [] {
+        return [KelmarNoteRow rowWithSymbolSize:kelmar::Metrics::rowSymbol
+                                          style:kelmar::TextStyle::body
+                                           tone:kelmar::TextTone::primary];
+    };
+    kelmar::renderRows<KelmarNoteRow>(
+        [self card], rows_, rows, make,
+        [](KelmarNoteRow* row, const kelmar::SummaryRow& record) { [row renderSummary:record]; });
+}
+
+- (CGFloat)layOutCardForWidth:(CGFloat)width {
+    using namespace kelmar::Metrics;
+    CGFloat below = 0;
+    for (KelmarNoteRow* row in rows_) {
+        below = kelmar::place(row, cardPadding, below + cardPadding, width - 2 * cardPadding);
+    }
+    return below + cardPadding;
+}
+
+@end
+
+@implementation KelmarProblemRow
+
++ (instancetype)row {
+    KelmarProblemRow* const row = [[[self alloc] initWithFrame:NSZeroRect] autorelease];
+    row->divider_ = [KelmarHairline line];
+    row->path_ = [KelmarTextLabel labelWithStyle:kelmar::TextStyle::body
+                                            tone:kelmar::TextTone::primary];
+    row->reason_ = [KelmarTextLabel labelWithStyle:kelmar::TextStyle::callout
+                                              tone:kelmar::TextTone::secondary];
+    [row addSubview:row->divider_];
+    [row addSubview:row->path_];
+    [row addSubview:row->reason_];
+    return row;
+}
+
+- (void)setFirst:(BOOL)first {
+    [divider_ setHidden:first];
+}
+
+- (void)render:(const kelmar::ProblemRow&)row {
+    [path_ showText:row.path];
+    [reason_ showText:row.reason];
+}
+
+- (CGFloat)layOutForWidth:(CGFloat)width {
+    using namespace kelmar::Metrics;
+    const CGFloat inside = width - 2 * cardPadding;
+    kelmar::setFrame(divider_, NSMakeRect(cardPadding, 0, width - cardPadding, 1));
+    const CGFloat below = kelmar::place(path_, cardPadding, rowPadding, inside);
+    return kelmar::place(reason_, cardPadding, below + textGap, inside) + rowPadding;
+}
+
+@end
+
+@implementation KelmarProblemsSection
+
+- (void)dealloc {
+    [rows_ release];
+    [super dealloc];
+}
+
+- (void)render:(const kelmar::ProblemsSection&)section {
+    if (rows_ == nil) {
+        rows_ = [[NSMutableArray alloc] init];
+    }
+    [self showTitle:section.title.text];
+    kelmar::renderRows<KelmarProblemRow>(
+        [self card], rows_, section.rows, [] { return [KelmarProblemRow row]; },
+        [](KelmarProblemRow* row, const kelmar::ProblemRow& record) { [row render:record]; });
+}
+
+- (CGFloat)layOutCardForWidth:(CGFloat)width {
+    CGFloat below = 0;
+    for (KelmarProblemRow* row in rows_) {
+        [row setFirst:below == 0 ? YES : NO];
+        below = kelmar::place(row, 0, below, width);
+    }
+    return below;
+}
+
+@end

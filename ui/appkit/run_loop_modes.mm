@@ -1,0 +1,10 @@
+#include "ui/appkit/run_loop_modes.h"
+
+namespace kelmar {
+
+NSArray* everyRunLoopMode() {
+    return [NSArray arrayWithObjects:NSDefaultRunLoopMode, NSModalPanelRunLoopMode,
+                                     NSEventTrackingRunLoopMode, nil];
+}
+
+} // namespace kelmar

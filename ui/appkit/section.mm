@@ -1,0 +1,49 @@
+#include "ui/appkit/section.h"
+
+#include "ui/appkit/metrics.hpp"
+
+@implementation KelmarSection
+
++ (instancetype)section {
+    KelmarSection* const section = [[[self alloc] initWithFrame:NSZeroRect] autorelease];
+    return section;
+}
+
+- (instancetype)initWithFrame:(NSRect)frame {
+    self = [super initWithFrame:frame];
+    if (self != nil) {
+        title_ = [KelmarTextLabel labelWithStyle:kelmar::TextStyle::sectionTitle
+                                            tone:kelmar::TextTone::primary];
+        card_ = [KelmarCardView card];
+        [self addSubview:title_];
+        [self addSubview:card_];
+    }
+    return self;
+}
+
+- (KelmarCardView*)card {
+    return card_;
+}
+
+- (void)showTitle:(const std::string&)title {
+    [title_ showText:title];
+    [title_ setHidden:title.empty() ? YES : NO];
+}
+
+- (CGFloat)layOutCardForWidth:(CGFloat)width {
+    static_cast<void>(width);
+    return 0;
+}
+
+- (CGFloat)layOutForWidth:(CGFloat)width {
+    CGFloat below = 0;
+    if (![title_ isHidden]) {
+        below = kelmar::place(title_, 0, 0, width) + kelmar::Metrics::partGap;
+    }
+    const CGFloat height = [self layOutCardForWidth:width];
+    [card_ setHidden:height > 0 ? NO : YES];
+    kelmar::setFrame(card_, NSMakeRect(0, below, width, height));
+    return below + height;
+}
+
+@end

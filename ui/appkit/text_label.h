@@ -1,0 +1,47 @@
+#pragma once
+
+#include <string>
+
+#import <AppKit/AppKit.h>
+
+namespace kelmar {
+
+enum class TextStyle {
+    title,        ///< of the page
+    sectionTitle, ///< above a card
+    body,
+    callout, ///< a little smaller
+    size,    ///< callout, in digits of equal width
+};
+
+enum class TextTone {
+    primary,
+    secondary,
+};
+
+} // namespace kelmar
+
+/// A text that wraps, or one line that loses its middle when there is no room for it.
+@interface KelmarTextLabel : NSTextField {
+    CGFloat measuredWidth_;
+    CGFloat measuredHeight_;
+}
+
++ (instancetype)labelWithStyle:(kelmar::TextStyle)style tone:(kelmar::TextTone)tone;
++ (instancetype)lineWithStyle:(kelmar::TextStyle)style tone:(kelmar::TextTone)tone;
+
+/// Shows `text`, which may hold any bytes.
+- (void)showText:(const std::string&)text;
+
+/// The height that the text takes at this width, and the width of its longest line, in points.
+- (CGFloat)heightForWidth:(CGFloat)width;
+- (CGFloat)naturalWidth;
+
+@end
+
+namespace kelmar {
+
+/// Gives `label` the frame at (x, y) with the height that it takes at `width`; answers the y below.
+CGFloat place(KelmarTextLabel* label, CGFloat x, CGFloat y, CGFloat width);
+
+} // namespace kelmar
