@@ -7,7 +7,7 @@
 #include <string>
 #include <vector>
 
-struct _AtspiAccessible; // NOLINT(*-reserved-identifier,cert-dcl*): the name that the library gave
+struct _AtspiAccessible; // NOLINT(*-reserved-identifier): the name that the library gave
                          // it
 
 namespace kelmar::test {

@@ -2,8 +2,8 @@
 
 #include "tests/window/accessible.hpp"
 
-struct _AtspiEvent; // NOLINT(*-reserved-identifier,cert-dcl*): the name that the library gave it
-struct _AtspiEventListener; // NOLINT(*-reserved-identifier,cert-dcl*): the name that the library
+struct _AtspiEvent; // NOLINT(*-reserved-identifier): the name that the library gave it
+struct _AtspiEventListener; // NOLINT(*-reserved-identifier): the name that the library
                             // gave it
 
 namespace kelmar::test {

@@ -6,7 +6,7 @@
 #include <string>
 #include <vector>
 
-struct _XDisplay; // NOLINT(*-reserved-identifier,cert-dcl*): the name that the library gave it
+struct _XDisplay; // NOLINT(*-reserved-identifier): the name that the library gave it
 
 namespace kelmar::test {
 
