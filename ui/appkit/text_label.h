@@ -30,7 +30,7 @@ enum class TextTone {
 + (instancetype)labelWithStyle:(kelmar::TextStyle)style tone:(kelmar::TextTone)tone;
 + (instancetype)lineWithStyle:(kelmar::TextStyle)style tone:(kelmar::TextTone)tone;
 
-/// Shows `text`, which may hold any bytes.
+/// Shows `text`, which may hold any bytes: what would break the line or turn it is made visible.
 - (void)showText:(const std::string&)text;
 
 /// The height that the text takes at this width, and the width of its longest line, in points.

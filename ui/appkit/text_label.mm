@@ -2,6 +2,7 @@
 
 #include "system/foundation_text_macos.hpp"
 #include "ui/appkit/flipped_view.h"
+#include "ui/harmless_text.hpp"
 
 #include <cmath>
 
@@ -64,7 +65,7 @@ NSSize roundedUp(NSSize size) {
 }
 
 - (void)showText:(const std::string&)text {
-    NSString* const shown = kelmar::foundationText(text);
+    NSString* const shown = kelmar::foundationText(kelmar::harmlessText(text));
     if (![[self stringValue] isEqualToString:shown]) {
         [self setStringValue:shown];
         measuredWidth_ = 0;

@@ -1,5 +1,6 @@
 #include "ui/qt/text_label.hpp"
 
+#include "ui/harmless_text.hpp"
 #include "ui/qt/colours.hpp"
 
 #include <QAbstractButton>
@@ -12,22 +13,6 @@
 namespace kelmar {
 
 namespace {
-
-/// What a name may hold that breaks the line or turns its direction, made visible.
-QString harmless(QString text) {
-    for (QChar& character : text) {
-        const char16_t code = character.unicode();
-        const bool control = code < 0x20;
-        const bool turns = (code >= 0x202a && code <= 0x202e) || (code >= 0x2066 && code <= 0x2069);
-        const bool breaks = code == 0x2028 || code == 0x2029;
-        if (control) {
-            character = QChar(0x2400 + code); // the picture of that control character
-        } else if (turns || breaks) {
-            character = QChar(QChar::ReplacementCharacter);
-        }
-    }
-    return text;
-}
 
 /// Lays `text` out in lines of `width`; the height that they take.
 double layOut(QTextLayout& layout, double width) {
@@ -74,7 +59,7 @@ void TextLabel::nameFor(QAbstractButton* button) {
 }
 
 QString TextLabel::drawn() const {
-    return harmless(text());
+    return QString::fromStdString(harmlessText(text().toStdString()));
 }
 
 QSize TextLabel::sizeHint() const {
