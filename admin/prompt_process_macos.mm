@@ -12,18 +12,31 @@
 #include <thread>
 
 #include <sys/event.h>
+#include <sys/stat.h>
 #include <unistd.h>
 
 namespace kelmar::PromptProcess {
 
 namespace {
 
+/// By whatever path: the two processes may have been started through different ones.
+bool isSameFile(const std::string& one, const std::string& other) {
+    struct stat first {};
+
+    struct stat second {};
+
+    return ::stat(one.c_str(), &first) == 0 && ::stat(other.c_str(), &second) == 0 &&
+           first.st_dev == second.st_dev && first.st_ino == second.st_ino;
+}
+
 /// Anybody may start this program with any options, and a prompt in its name is believed. Only the
 /// program itself is answered, and only for the script that it ships with.
 bool isTrusted(const Request& request) {
     const std::optional<std::string> mine = executablePath(::getpid());
-    return mine && executablePath(::getppid()) == mine &&
-           resourcePath("uninstall-as-admin.sh") == request.script;
+    const std::optional<std::string> asking = executablePath(::getppid());
+    const std::optional<std::string> script = resourcePath("uninstall-as-admin.sh");
+    return mine && asking && script && isSameFile(*mine, *asking) &&
+           isSameFile(*script, request.script);
 }
 
 /// Ends this process when the one that asked has ended: nobody would hear the answer, and nothing

@@ -35,8 +35,8 @@ std::optional<std::string> stringInPropertyList(std::string_view bytes, std::str
         NSData* const data = [NSData dataWithBytes:bytes.data() length:bytes.size()];
         id const root = [NSPropertyListSerialization propertyListWithData:data
                                                                   options:NSPropertyListImmutable
-                                                                   format:NULL
-                                                                    error:NULL];
+                                                                   format:nullptr
+                                                                    error:nullptr];
         if (![root isKindOfClass:[NSDictionary class]]) {
             return std::nullopt;
         }

@@ -27,7 +27,13 @@ public:
 
     Retained(Retained&& other) noexcept : object_(std::exchange(other.object_, nullptr)) {}
 
-    Retained& operator=(Retained other) noexcept {
+    Retained& operator=(const Retained& other) {
+        Retained copy(other);
+        std::swap(object_, copy.object_);
+        return *this;
+    }
+
+    Retained& operator=(Retained&& other) noexcept {
         std::swap(object_, other.object_);
         return *this;
     }

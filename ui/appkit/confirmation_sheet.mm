@@ -104,7 +104,7 @@
 #pragma clang diagnostic ignored "-Wdeprecated-declarations"
     [alert_ beginSheetModalForWindow:window_ modalDelegate:self
                       didEndSelector:@selector(alertDidEnd:returnCode:contextInfo:)
-                         contextInfo:NULL];
+                         contextInfo:nullptr];
 #pragma clang diagnostic pop
 }
 
@@ -124,7 +124,7 @@
     [alert_ autorelease]; // it may be among those that called
     alert_ = nil;
     isBegun_ = NO;
-    const kelmar::Confirmation confirmation = *shown_;
+    kelmar::Confirmation confirmation = *shown_;
     delete std::exchange(shown_, nullptr);
     return confirmation;
 }

@@ -7,7 +7,7 @@
 
 + (instancetype)icon {
     KelmarIconView* const view = [[[self alloc] initWithFrame:NSZeroRect] autorelease];
-    [view setImageScaling:NSImageScaleProportionallyUpOrDown];
+    [view setImageScaling:NSImageScaleProportionallyDown];
     [view setEditable:NO];
     [view setAccessibilityElement:NO];
     return view;

@@ -54,7 +54,7 @@ void installMainMenu(NSApplication* application, const std::vector<Menu>& menus)
     NSMenu* const bar = [[[NSMenu alloc] initWithTitle:@""] autorelease];
     for (const Menu& menu : menus) {
         NSMenuItem* const item = [[[NSMenuItem alloc] initWithTitle:foundationText(menu.title)
-                                                             action:NULL
+                                                             action:nullptr
                                                       keyEquivalent:@""] autorelease];
         // The system writes the application's name over the first one.
         NSMenu* const submenu = makeMenu(&menu == &menus.front() ? "" : menu.title, menu);

@@ -21,7 +21,7 @@ private:
     using Jobs = std::shared_ptr<MainThreadJobs>;
 
     static void askForTurn(const Jobs& jobs);
-    static void turn(void* jobs);
+    static void turn(void* context); ///< a `Jobs` that it takes over
 
     Jobs jobs_ = std::make_shared<MainThreadJobs>(); ///< shared with the turn that is on its way
 };
