@@ -68,6 +68,22 @@ NSAttributedString* recordText(const std::string& text) {
     return NSMaxY(seen) >= NSMaxY([text_ frame]) - 1;
 }
 
+/// To the very end, and not to the last line: below that is some room.
+- (void)scrollToEnd {
+    // What is shown is laid out, and only then is it known how high the text is.
+    [text_ scrollRangeToVisible:NSMakeRange([[text_ textStorage] length], 0)];
+    const CGFloat height = NSHeight([[self contentView] documentVisibleRect]);
+    [text_ scrollPoint:NSMakePoint(0, NSMaxY([text_ bounds]) - height)];
+}
+
+- (void)setFrameSize:(NSSize)size {
+    const bool follows = text_ != nil && [self isAtEnd];
+    [super setFrameSize:size];
+    if (follows) {
+        [self scrollToEnd];
+    }
+}
+
 - (void)render:(const kelmar::LogLines&)log {
     const bool grows = log.continues(*shown_) && log.size() >= shown_->size();
     if (grows && log.size() == shown_->size()) {
@@ -84,7 +100,7 @@ NSAttributedString* recordText(const std::string& text) {
     [storage appendAttributedString:kelmar::recordText(separator + log.text(shown_->size()))];
     *shown_ = log;
     if (follows) {
-        [text_ scrollRangeToVisible:NSMakeRange([storage length], 0)];
+        [self scrollToEnd];
     }
 }
 

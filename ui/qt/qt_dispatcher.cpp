@@ -46,7 +46,8 @@ void QtDispatcher::utility(Job job) {
         nameThisThread("utility");
         // setpriority(2): on Linux the nice value is a thread's own, and its children inherit it.
         constexpr int nicer = 10;
-        ::setpriority(PRIO_PROCESS, static_cast<id_t>(::gettid()), nicer);
+        const auto self = static_cast<id_t>(::gettid());
+        ::setpriority(PRIO_PROCESS, self, ::getpriority(PRIO_PROCESS, self) + nicer);
         job();
     }).detach();
 }
