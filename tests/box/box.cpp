@@ -9,8 +9,6 @@
 #include <system_error>
 #include <utility>
 
-#include <sched.h>
-#include <sys/mount.h>
 #include <sys/stat.h>
 #include <sys/wait.h>
 #include <unistd.h>
@@ -21,25 +19,10 @@ namespace {
 
 namespace fs = std::filesystem;
 
-void mustMount(const char* source, const std::string& target, const char* type, unsigned long flags,
-               const std::string& data = "") {
-    fs::create_directories(target);
-    if (::mount(source, target.c_str(), type, flags, data.empty() ? nullptr : data.c_str()) != 0) {
-        throw std::system_error(errno, std::generic_category(), "mount " + target);
-    }
-}
-
 void write(const std::string& path, const std::string& text, fs::perms permissions) {
     fs::create_directories(fs::path(path).parent_path());
     std::ofstream(path, std::ios::app) << text;
     fs::permissions(path, permissions);
-}
-
-void makeNamespace() {
-    if (::unshare(CLONE_NEWNS) != 0 ||
-        ::mount("none", "/", nullptr, MS_REC | MS_PRIVATE, nullptr) != 0) {
-        throw std::system_error(errno, std::generic_category(), "no mount namespace of its own");
-    }
 }
 
 /// Volumes and service names are file names in /box once their slashes are gone.
@@ -75,15 +58,14 @@ std::optional<std::string> Box::obstacle() {
 }
 
 Box::Box() : root_(folder_ / "root") {
-    makeNamespace();
     const std::string layer = folder_ / "layer";
-    mustMount("tmpfs", layer, "tmpfs", 0, "mode=755");
+    mounts_.add("tmpfs", layer, "mode=755");
     fs::create_directories(layer + "/upper");
     fs::create_directories(layer + "/work");
-    mustMount("overlay", root_, "overlay", 0,
-              "lowerdir=/,upperdir=" + layer + "/upper,workdir=" + layer + "/work");
-    mustMount("/proc", outside("/proc"), nullptr, MS_BIND | MS_REC);
-    mustMount("/dev", outside("/dev"), nullptr, MS_BIND | MS_REC);
+    mounts_.add("overlay", root_,
+                "lowerdir=/,upperdir=" + layer + "/upper,workdir=" + layer + "/work");
+    mounts_.bindWithMounts("/proc", outside("/proc"));
+    mounts_.bindWithMounts("/dev", outside("/dev"));
 
     for (const char* const tool : {"/bin/launchctl", "/usr/sbin/pkgutil", "/usr/bin/security",
                                    "/usr/bin/defaults", "/usr/bin/tccutil"}) {
@@ -117,13 +99,6 @@ Box::~Box() {
         ::kill(process, SIGKILL);
         ::waitpid(process, nullptr, 0);
     }
-    for (const std::string& mounted : mounts_) {
-        ::umount2(mounted.c_str(), MNT_DETACH);
-    }
-    ::umount2(outside("/dev").c_str(), MNT_DETACH);
-    ::umount2(outside("/proc").c_str(), MNT_DETACH);
-    ::umount2(root_.c_str(), MNT_DETACH);
-    ::umount2((folder_ / "layer").c_str(), MNT_DETACH);
 }
 
 MacTree Box::tree() const {
@@ -203,8 +178,7 @@ void Box::runInBackground(const std::string& script) const {
 void Box::mountOver(const std::string& path) const {
     const std::string empty = folder_ / "layer/empty";
     fs::create_directories(empty);
-    mustMount(empty.c_str(), outside(path), nullptr, MS_BIND);
-    mounts_.push_back(outside(path));
+    mounts_.bind(empty, outside(path));
 }
 
 void Box::replace(const std::string& path, const std::string& script) const {

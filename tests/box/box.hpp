@@ -2,6 +2,7 @@
 
 #include "discovery/kelmar_paths.hpp"
 #include "tests/support/mac_tree.hpp"
+#include "tests/support/private_mounts.hpp"
 #include "tests/support/program.hpp"
 #include "tests/support/sleeper.hpp"
 #include "tests/support/temporary_folder.hpp"
@@ -81,9 +82,9 @@ private:
 
     TemporaryFolder folder_;
     std::string root_;
+    mutable PrivateMounts mounts_;
     mutable std::vector<std::unique_ptr<Sleeper>> sleepers_;
     mutable std::vector<pid_t> background_;
-    mutable std::vector<std::string> mounts_;
 };
 
 } // namespace kelmar::test

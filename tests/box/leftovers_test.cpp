@@ -146,10 +146,14 @@ TEST_F(Leftovers, PermissionsThatAreNotResetAreSaidAndNoFailure) {
 }
 
 /// Stands for the system's preferences cache: writes the file anew for as long as it knows the
-/// domain.
+/// domain. The lock keeps it from forgetting between the question and the writing.
 const std::string preferencesCache =
     "file=/Users/ann/Library/Preferences/com.quobrintal.app.plist\n"
-    "while [ -e /box/cached-preferences ]; do [ -e \"$file\" ] || echo cached >\"$file\"; done";
+    "exec 9>/box/preferences-lock\n"
+    "while flock 9 && [ -e /box/cached-preferences ]; do\n"
+    "    [ -e \"$file\" ] || echo cached >\"$file\"\n"
+    "    flock -u 9; sleep 0.005\n"
+    "done";
 
 TEST_F(Leftovers, CachedPreferencesAreDroppedBeforeTheirFileGoes) {
     box->tree().settings();
