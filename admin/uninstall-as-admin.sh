@@ -153,6 +153,9 @@ enter() { # BASE FOLDER, which is BASE or begins with BASE/
 # a new folder of this process's own: ln(1) names what is there without following a link, nobody else can
 # change that name, and what it names is looked at before it is opened. The new folder may be swapped as well
 # before it is entered: it must be where it was made, and as it was made, and only the name given here goes.
+# On a Mac it also inherits its parent's access control list, which may let that user write in it: chmod(1)
+# takes the list away, and nothing may have been put there before. Older Macs' ln(1) knows no -P and follows a
+# link: to a file that must pass the same look.
 open_status() {
     local folder=${status%/*}/ private=.kelmar-$$-$RANDOM$RANDOM physical description owner
     case $(describe "${status%/*}") in
@@ -163,12 +166,15 @@ open_status() {
         2>/dev/null || [ "$(here)" != "$physical/$private" ]; then
         die 1 'the status file cannot be looked at'
     fi
-    case $(describe .) in
+    if ! chmod -N . 2>/dev/null && [ "$(uname)" = Darwin ]; then
+        die 1 'the status file cannot be looked at'
+    fi
+    case $(describe .)$(ls -A .) in
     drwx------*' '"$(id -u)") ;;
     *) die 1 'the status file cannot be looked at' ;;
     esac
     user=''
-    if ln -P -- "$status" ./status 2>/dev/null; then
+    if [ ! -L "$status" ] && { ln -P -- "$status" ./status || ln -- "$status" ./status; } 2>/dev/null; then
         description=$(describe ./status)
         case $description in
         -*' 2 '"$owner") user=${description##* } ;;
@@ -215,15 +221,17 @@ report_end() { # PLACE PATH MESSAGE: how the removal of PATH, which is PLACE see
 }
 
 # Goes to the item's folder, or says why the item can't be removed from there. What is on a disk that somebody
-# mounted inside the item is not Kelmar's, and rm(1) would empty it.
+# mounted inside the item is not Kelmar's, and rm(1) would empty it. A Mac's list of mounts may name a folder by
+# way of the volume that it lies on.
 approach() { # BASE PATH
-    local name=${2##*/}
+    local place data=/System/Volumes/Data
     if ! enter "$1" "${2%/*}"; then
         report "FAIL $2"$'\t''it is reached through a link'
         return 1
     fi
+    place=$(here)/${2##*/}
     case $(mount 2>/dev/null) in
-    *" on $(here)/$name "* | *" on $(here)/$name/"*)
+    *" on $place "* | *" on $place/"* | *" on $data$place "* | *" on $data$place/"*)
         report "FAIL $2"$'\t''a disk is mounted inside it'
         return 1
         ;;
@@ -266,7 +274,7 @@ remove_foreign() { # PATH
     [ ${#found[@]} -gt 0 ] || return 0
     message=$(find "$item" ! -user "$user" -prune -execdir rm -rf -- '{}' ';' 2>&1)
     [ ${#found[@]} -eq 1 ] || message='' # whose it is can't be told
-    for place in "${found[@]}"; do
+    for place in ${found[@]+"${found[@]}"}; do
         report_end "$place" "$folder/$(one_line "${place#./}")" "$(one_line "$message")"
     done
 }
@@ -368,7 +376,7 @@ main() {
             stop_agents
             stop_processes "${items[0]}" "${items[1]}"
         fi
-        for item in "${items[@]}"; do
+        for item in ${items[@]+"${items[@]}"}; do
             remove_item "$test_root" "$item"
         done
         [ -n "$test_root" ] || forget_receipts
@@ -378,7 +386,7 @@ main() {
     done
     if [ -n "$home" ]; then
         items_below "$home"
-        for item in "${items[@]}"; do
+        for item in ${items[@]+"${items[@]}"}; do
             remove_foreign "$item"
         done
     fi
