@@ -3,9 +3,8 @@
 #include <string>
 #include <vector>
 
-struct _AtspiEvent; // NOLINT(*-reserved-identifier): the name that the library gave it
-struct _AtspiEventListener; // NOLINT(*-reserved-identifier): the name that the library
-                            // gave it
+struct _AtspiEvent;         // NOLINT(*-reserved-identifier): the library's name
+struct _AtspiEventListener; // NOLINT(*-reserved-identifier): the library's name
 
 namespace kelmar::test {
 
