@@ -1,26 +1,16 @@
 #include "system/files.hpp"
 
 #include "system/descriptor.hpp"
+#include "system/open_folder.hpp"
 
 #include <algorithm>
 #include <cerrno>
-#include <memory>
-#include <string_view>
 
-#include <dirent.h>
 #include <fcntl.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
 namespace kelmar {
-
-namespace {
-
-struct CloseFolder {
-    void operator()(DIR* folder) const { ::closedir(folder); }
-};
-
-} // namespace
 
 bool exists(const std::string& path) {
     struct stat status {};
@@ -29,17 +19,13 @@ bool exists(const std::string& path) {
 }
 
 std::optional<std::vector<std::string>> sortedNames(const std::string& path) {
-    const std::unique_ptr<DIR, CloseFolder> folder(::opendir(path.c_str()));
+    const OpenFolder folder(::opendir(path.c_str()));
     if (!folder) {
         return std::nullopt;
     }
     std::vector<std::string> names;
-    errno = 0; // readdir(3) tells its end and an error apart by errno alone
-    while (const dirent* entry = ::readdir(folder.get())) {
-        const std::string_view name = entry->d_name;
-        if (name != "." && name != "..") {
-            names.emplace_back(name);
-        }
+    while (const dirent* const entry = nextEntry(folder)) {
+        names.emplace_back(entry->d_name);
     }
     if (errno != 0) {
         return std::nullopt;

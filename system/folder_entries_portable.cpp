@@ -1,23 +1,16 @@
 #include "system/folder_entries_portable.hpp"
 
-#include "system/descriptor.hpp"
+#include "system/open_folder.hpp"
 
 #include <cerrno>
-#include <memory>
 
-#include <dirent.h>
 #include <fcntl.h>
 #include <sys/stat.h>
+#include <unistd.h>
 
 namespace kelmar {
 
 namespace {
-
-struct CloseFolder {
-    void operator()(DIR* folder) const { ::closedir(folder); }
-};
-
-using OpenFolder = std::unique_ptr<DIR, CloseFolder>;
 
 /// closedir(3) closes the descriptor too, and the caller's is to stay open. A duplicate shares its
 /// position, which is at the beginning.
@@ -49,14 +42,9 @@ FolderReading readFolderPortably(int descriptor,
         return FolderReading::failed;
     }
     while (true) {
-        errno = 0; // readdir(3): null both at the end and for an error
-        const dirent* const found = ::readdir(folder.get());
+        const dirent* const found = nextEntry(folder);
         if (found == nullptr) {
             return errno == 0 ? FolderReading::complete : FolderReading::failed;
-        }
-        const std::string_view name = found->d_name;
-        if (name == "." || name == "..") {
-            continue;
         }
         FolderEntry entry{};
         if (!lookAtEntry(descriptor, found->d_name, entry)) {
