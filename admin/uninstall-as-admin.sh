@@ -206,8 +206,12 @@ one_line() { # TEXT
     while [ "${text#$'\n'}" != "$text" ]; do
         text=${text#$'\n'}
     done
-    text=${text%%$'\n'*}
-    printf '%s' "${text//[[:cntrl:]]/?}"
+    harmless "${text%%$'\n'*}"
+}
+
+# Whole, since a path without its end is that of something else.
+harmless() { # PATH
+    printf '%s' "${1//[[:cntrl:]]/?}"
 }
 
 # --- Removing ----------------------------------------------------------------------------------------------
@@ -269,13 +273,13 @@ remove_foreign() { # PATH
     approach "$home" "$1" || return 0
     while IFS= read -r -d '' place; do
         found+=("$place")
-        report "DOING $folder/$(one_line "${place#./}")"
+        report "DOING $folder/$(harmless "${place#./}")"
     done < <(find "$item" ! -user "$user" -prune -print0 2>/dev/null)
     [ ${#found[@]} -gt 0 ] || return 0
     message=$(find "$item" ! -user "$user" -prune -execdir rm -rf -- '{}' ';' 2>&1)
     [ ${#found[@]} -eq 1 ] || message='' # whose it is can't be told
     for place in ${found[@]+"${found[@]}"}; do
-        report_end "$place" "$folder/$(one_line "${place#./}")" "$(one_line "$message")"
+        report_end "$place" "$folder/$(harmless "${place#./}")" "$(one_line "$message")"
     done
 }
 

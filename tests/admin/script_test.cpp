@@ -134,12 +134,12 @@ TEST_F(Script, OddNamesBelowTheHomeMakeNoLinesOfTheirOwn) {
     if (::getuid() != 0) {
         GTEST_SKIP() << "only root can give a file to another user";
     }
-    const std::string odd = home("/Library/Kelmar/-rf x\nOK \tfake\nDONE");
-    tree.file(odd);
-    giveAway(odd);
+    const std::string name = home("/Library/Kelmar/-rf x\nOK \tfake\nDONE");
+    tree.file(name);
+    giveAway(name);
     const std::string shown = home("/Library/Kelmar/-rf x?OK ?fake?DONE");
-    EXPECT_EQ(run({"--home", home("")}).size(), 3U);
-    EXPECT_FALSE(isThere(odd));
+    EXPECT_EQ(run({"--home", home("")}), (Lines{"DOING " + shown, "OK " + shown, "DONE"}));
+    EXPECT_FALSE(isThere(name));
 }
 
 TEST_F(Script, WhatCannotBeRemovedFailsInRmsWords) {

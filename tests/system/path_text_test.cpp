@@ -7,12 +7,12 @@
 namespace kelmar {
 namespace {
 
-struct Case {
+struct Path {
     std::string path;
     std::string standard;
 };
 
-class Standardised : public testing::TestWithParam<Case> {};
+class Standardised : public testing::TestWithParam<Path> {};
 
 TEST_P(Standardised, GoesByTheTextAlone) {
     EXPECT_EQ(standardised(GetParam().path), GetParam().standard) << GetParam().path;
@@ -23,16 +23,16 @@ TEST_P(Standardised, IsItsOwnStandardForm) {
 }
 
 INSTANTIATE_TEST_SUITE_P(Paths, Standardised,
-                         testing::Values(Case{"/", "/"}, Case{"//", "/"}, Case{"/..", "/"},
-                                         Case{"/../..", "/"}, Case{"/.", "/"},
-                                         Case{"/tmp/t", "/tmp/t"}, Case{"/tmp/t/", "/tmp/t"},
-                                         Case{"/tmp/t///", "/tmp/t"}, Case{"//tmp//t", "/tmp/t"},
-                                         Case{"/tmp/x/../t", "/tmp/t"},
-                                         Case{"/tmp/./t/.", "/tmp/t"}, Case{"/tmp/../../t", "/t"},
-                                         Case{"/a/b/c/../..", "/a"}, Case{"/tmp/...", "/tmp/..."},
-                                         Case{"/tmp/.t", "/tmp/.t"}, Case{"/tmp/t..", "/tmp/t.."},
-                                         Case{"/a b/\"'\n", "/a b/\"'\n"},
-                                         Case{"/\xC3\xA9/\xFF\xFE", "/\xC3\xA9/\xFF\xFE"}));
+                         testing::Values(Path{"/", "/"}, Path{"//", "/"}, Path{"/..", "/"},
+                                         Path{"/../..", "/"}, Path{"/.", "/"},
+                                         Path{"/tmp/t", "/tmp/t"}, Path{"/tmp/t/", "/tmp/t"},
+                                         Path{"/tmp/t///", "/tmp/t"}, Path{"//tmp//t", "/tmp/t"},
+                                         Path{"/tmp/x/../t", "/tmp/t"},
+                                         Path{"/tmp/./t/.", "/tmp/t"}, Path{"/tmp/../../t", "/t"},
+                                         Path{"/a/b/c/../..", "/a"}, Path{"/tmp/...", "/tmp/..."},
+                                         Path{"/tmp/.t", "/tmp/.t"}, Path{"/tmp/t..", "/tmp/t.."},
+                                         Path{"/a b/\"'\n", "/a b/\"'\n"},
+                                         Path{"/\xC3\xA9/\xFF\xFE", "/\xC3\xA9/\xFF\xFE"}));
 
 TEST(StandardisedPath, OfALinkIsTheLinkItself) {
     // /proc/self is a link on every Linux; looked up, it would become a number.

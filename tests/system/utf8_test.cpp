@@ -17,12 +17,12 @@ std::string replaced(int count) {
     return text;
 }
 
-struct Case {
+struct Decoding {
     std::string bytes;
     std::string text;
 };
 
-class DecodeUtf8 : public testing::TestWithParam<Case> {};
+class DecodeUtf8 : public testing::TestWithParam<Decoding> {};
 
 TEST_P(DecodeUtf8, ReplacesMaximalSubparts) {
     EXPECT_EQ(decodeUtf8(GetParam().bytes), GetParam().text);
@@ -32,35 +32,37 @@ TEST_P(DecodeUtf8, ReplacesMaximalSubparts) {
 
 INSTANTIATE_TEST_SUITE_P(
     WellFormed, DecodeUtf8,
-    testing::Values(Case{"", ""}, Case{"plain\n", "plain\n"},
-                    Case{std::string("\0x", 2), std::string("\0x", 2)},
-                    Case{"\xC2\x80\xDF\xBF", "\xC2\x80\xDF\xBF"},
-                    Case{"\xE0\xA0\x80\xED\x9F\xBF", "\xE0\xA0\x80\xED\x9F\xBF"},
-                    Case{"\xEE\x80\x80\xEF\xBF\xBF", "\xEE\x80\x80\xEF\xBF\xBF"},
-                    Case{"\xF0\x90\x80\x80", "\xF0\x90\x80\x80"},
-                    Case{"\xF4\x8F\xBF\xBF", "\xF4\x8F\xBF\xBF"}));
+    testing::Values(Decoding{"", ""}, Decoding{"plain\n", "plain\n"},
+                    Decoding{std::string("\0x", 2), std::string("\0x", 2)},
+                    Decoding{"\xC2\x80\xDF\xBF", "\xC2\x80\xDF\xBF"},
+                    Decoding{"\xE0\xA0\x80\xED\x9F\xBF", "\xE0\xA0\x80\xED\x9F\xBF"},
+                    Decoding{"\xEE\x80\x80\xEF\xBF\xBF", "\xEE\x80\x80\xEF\xBF\xBF"},
+                    Decoding{"\xF0\x90\x80\x80", "\xF0\x90\x80\x80"},
+                    Decoding{"\xF4\x8F\xBF\xBF", "\xF4\x8F\xBF\xBF"}));
 
 // The Unicode Standard, chapter 3, tables 3-8 to 3-11.
 INSTANTIATE_TEST_SUITE_P(
     TablesOfTheStandard, DecodeUtf8,
-    testing::Values(Case{"\xC0\xAF\xE0\x80\xBF\xF0\x81\x82\x41", replaced(8) + "A"},
-                    Case{"\xED\xA0\x80\xED\xBF\xBF\xED\xAF\x41", replaced(8) + "A"},
-                    Case{"\xF4\x91\x92\x93\xFF\x41\x80\xBF\x42",
-                         replaced(5) + "A" + replaced(2) + "B"},
-                    Case{"\xE1\x80\xE2\xF0\x91\x92\xF1\xBF\x41", replaced(4) + "A"}));
+    testing::Values(Decoding{"\xC0\xAF\xE0\x80\xBF\xF0\x81\x82\x41", replaced(8) + "A"},
+                    Decoding{"\xED\xA0\x80\xED\xBF\xBF\xED\xAF\x41", replaced(8) + "A"},
+                    Decoding{"\xF4\x91\x92\x93\xFF\x41\x80\xBF\x42",
+                             replaced(5) + "A" + replaced(2) + "B"},
+                    Decoding{"\xE1\x80\xE2\xF0\x91\x92\xF1\xBF\x41", replaced(4) + "A"}));
 
 INSTANTIATE_TEST_SUITE_P(Truncated, DecodeUtf8,
-                         testing::Values(Case{"\xC3", replaced(1)}, Case{"\xE2\x82", replaced(1)},
-                                         Case{"\xF0\x9F\x98", replaced(1)},
-                                         Case{"\xF0\x9F\x98\xC3\xA9", replaced(1) + "\xC3\xA9"},
-                                         Case{"a\xE2\x82z", "a" + replaced(1) + "z"},
-                                         Case{"\xC3\x28", replaced(1) + "("}));
+                         testing::Values(Decoding{"\xC3", replaced(1)},
+                                         Decoding{"\xE2\x82", replaced(1)},
+                                         Decoding{"\xF0\x9F\x98", replaced(1)},
+                                         Decoding{"\xF0\x9F\x98\xC3\xA9", replaced(1) + "\xC3\xA9"},
+                                         Decoding{"a\xE2\x82z", "a" + replaced(1) + "z"},
+                                         Decoding{"\xC3\x28", replaced(1) + "("}));
 
 INSTANTIATE_TEST_SUITE_P(NoLead, DecodeUtf8,
-                         testing::Values(Case{"\x80", replaced(1)}, Case{"\xBF\xBF", replaced(2)},
-                                         Case{"\xF5\x80\x80\x80", replaced(4)},
-                                         Case{"\xFE\xFF", replaced(2)},
-                                         Case{"\xC1\xBF", replaced(2)}));
+                         testing::Values(Decoding{"\x80", replaced(1)},
+                                         Decoding{"\xBF\xBF", replaced(2)},
+                                         Decoding{"\xF5\x80\x80\x80", replaced(4)},
+                                         Decoding{"\xFE\xFF", replaced(2)},
+                                         Decoding{"\xC1\xBF", replaced(2)}));
 
 TEST(AppendUtf8, WritesEveryLengthAndReplacesSurrogates) {
     std::string text;

@@ -10,12 +10,10 @@
 namespace kelmar {
 namespace {
 
-const KelmarPaths paths = test::machinePaths();
-
 /// With Store and Logs there, and Store chosen.
 UninstallerModel::Published asking(std::optional<std::int64_t> storeBytes) {
-    UninstallerModel::Published published = test::readyWith(test::usualInventory(paths));
-    const std::string store = test::dataFolder(paths, Scope::me, "Store").path;
+    UninstallerModel::Published published = test::readyWith(test::usualInventory(test::machine));
+    const std::string store = test::dataFolder(test::machine, Scope::me, "Store").path;
     published.selectedData = {store};
     if (storeBytes) {
         published.sizes[store] = *storeBytes;
@@ -49,7 +47,7 @@ TEST(Confirmation, OfNothingSaysEmpty) {
 
 TEST(Confirmation, TellsNoSizeWhileOneChosenFolderIsMeasured) {
     UninstallerModel::Published published = asking(5'000'000);
-    const std::string logs = test::dataFolder(paths, Scope::me, "Logs").path;
+    const std::string logs = test::dataFolder(test::machine, Scope::me, "Logs").path;
     published.selectedData.insert(logs);
     EXPECT_EQ(confirmation(published).title, "Delete your Kelmar data?");
     published.sizes[logs] = 2'000'000;

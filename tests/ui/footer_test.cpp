@@ -17,7 +17,6 @@ using Model = UninstallerModel;
 using Notes = std::vector<FooterNote>;
 using Buttons = std::vector<Button>;
 
-const KelmarPaths paths = test::machinePaths();
 const Button quitAlone{"Quit", Action::quit, ButtonKey::defaultAction};
 const FooterNote openApp{"exclamationmark.circle", "Kelmar is open and will be closed",
                          "Any job Kelmar is running stops."};
@@ -36,8 +35,8 @@ Notes notes(const Inventory& inventory, const std::set<std::string>& selected = 
 
 /// What would have both notes, if its phase had any.
 Model::Published in(Model::Phase phase) {
-    Inventory inventory = test::usualInventory(paths);
-    inventory.installations = {test::installation(paths, Scope::allUsers)};
+    Inventory inventory = test::usualInventory(test::machine);
+    inventory.installations = {test::installation(test::machine, Scope::allUsers)};
     inventory.appRunning = true;
     Model::Published published = test::readyWith(inventory);
     published.phase = std::move(phase);
@@ -49,16 +48,16 @@ TEST(Footer, ReadyIsLeftByEscapeAndStartedByReturn) {
                           std::nullopt,
                           {{"Quit", Action::quit, ButtonKey::cancelAction},
                            {"Uninstall", Action::uninstallClicked, ButtonKey::defaultAction}}};
-    EXPECT_EQ(footer(test::readyWith(test::usualInventory(paths))), expected);
+    EXPECT_EQ(footer(test::readyWith(test::usualInventory(test::machine))), expected);
 }
 
 TEST(Footer, AnyThingFoundCanBeUninstalled) {
     std::vector<Inventory> found(5);
-    found[0].installations = {test::installation(paths, Scope::me)};
+    found[0].installations = {test::installation(test::machine, Scope::me)};
     found[1].loadedServices = {"com.kelmar.api"};
     found[2].settings = {"/s"};
     found[3].keychainItems = {"Kelmar Safe Storage"};
-    found[4].dataRoots = {test::dataRoot(paths, Scope::me, {"Store"})};
+    found[4].dataRoots = {test::dataRoot(test::machine, Scope::me, {"Store"})};
     for (const Inventory& inventory : found) {
         EXPECT_EQ(footer(test::readyWith(inventory)).buttons.size(), 2U);
     }
@@ -93,41 +92,42 @@ TEST(Footer, FinishedWithFailuresCanBeTriedAgain) {
 }
 
 TEST(Footer, HasNoNotesForAnInstallationOfMine) {
-    EXPECT_EQ(notes(test::usualInventory(paths)), Notes{});
+    EXPECT_EQ(notes(test::usualInventory(test::machine)), Notes{});
 }
 
 TEST(Footer, NotesTheAppThatIsOpen) {
-    Inventory inventory = test::usualInventory(paths);
+    Inventory inventory = test::usualInventory(test::machine);
     inventory.appRunning = true;
     EXPECT_EQ(notes(inventory), Notes{openApp});
 }
 
 TEST(Footer, NotesThePasswordForAllUsers) {
     Inventory inventory;
-    inventory.installations = {test::installation(paths, Scope::allUsers)};
+    inventory.installations = {test::installation(test::machine, Scope::allUsers)};
     EXPECT_EQ(notes(inventory), Notes{forAllUsers});
 }
 
 TEST(Footer, NotesThePasswordForFilesOfTheSystem) {
-    Inventory inventory = test::usualInventory(paths);
+    Inventory inventory = test::usualInventory(test::machine);
     inventory.installations[0].needsAdministrator = true;
     EXPECT_EQ(notes(inventory), Notes{ofTheSystem});
 }
 
 TEST(Footer, AnInstallationForAllUsersExplainsMore) {
     Inventory inventory;
-    inventory.installations = {test::installation(paths, Scope::allUsers),
-                               test::installation(paths, Scope::me)};
+    inventory.installations = {test::installation(test::machine, Scope::allUsers),
+                               test::installation(test::machine, Scope::me)};
     inventory.installations[1].needsAdministrator = true;
     EXPECT_EQ(notes(inventory), Notes{forAllUsers});
 }
 
 TEST(Footer, NotesThePasswordWhileSharedDataIsChosen) {
-    Inventory inventory = test::usualInventory(paths);
-    inventory.dataRoots.push_back(test::dataRoot(paths, Scope::allUsers, {"CDN"}));
+    Inventory inventory = test::usualInventory(test::machine);
+    inventory.dataRoots.push_back(test::dataRoot(test::machine, Scope::allUsers, {"CDN"}));
     EXPECT_EQ(notes(inventory), Notes{});
-    EXPECT_EQ(notes(inventory, {test::dataFolder(paths, Scope::me, "Store").path}), Notes{});
-    EXPECT_EQ(notes(inventory, {test::dataFolder(paths, Scope::allUsers, "CDN").path}),
+    EXPECT_EQ(notes(inventory, {test::dataFolder(test::machine, Scope::me, "Store").path}),
+              Notes{});
+    EXPECT_EQ(notes(inventory, {test::dataFolder(test::machine, Scope::allUsers, "CDN").path}),
               Notes{ofTheSystem});
 }
 

@@ -17,7 +17,6 @@ using Model = UninstallerModel;
 using Published = Model::Published;
 using State = Model::StageRow::State;
 
-const KelmarPaths paths = test::machinePaths();
 const Header removes{"Uninstall Kelmar", "Removes the Kelmar app, its background services, its "
                                          "settings and the permissions you gave it."};
 const Header absent{"Kelmar isn't on this Mac", "There's nothing of Kelmar's here to remove."};
@@ -27,11 +26,11 @@ const NothingFoundContent nothingFound{
 const Model::Finished failed{{{"/Users/ada/Kelmar/Store", "it is still there"}}};
 
 Page pageOf(const Published& published, bool showFolders = false, bool showDetails = false) {
-    return UninstallerView::page(published, paths, showFolders, showDetails);
+    return UninstallerView::page(published, test::machine, showFolders, showDetails);
 }
 
 Published in(Model::Phase phase) {
-    Published published = test::readyWith(test::usualInventory(paths));
+    Published published = test::readyWith(test::usualInventory(test::machine));
     published.phase = std::move(phase);
     return published;
 }
@@ -68,15 +67,15 @@ TEST(Page, ARunningAppAloneIsNothingFound) {
 
 TEST(Page, EachKindOfThingIsSomethingFound) {
     std::vector<Inventory> found(5);
-    found[0].installations = {test::installation(paths, Scope::allUsers)};
+    found[0].installations = {test::installation(test::machine, Scope::allUsers)};
     found[1].loadedServices = {"com.kelmar.api"};
     found[2].settings = {"/s"};
     found[3].keychainItems = {"Kelmar Safe Storage"};
-    found[4].dataRoots = {test::dataRoot(paths, Scope::allUsers, {"CDN"})};
+    found[4].dataRoots = {test::dataRoot(test::machine, Scope::allUsers, {"CDN"})};
     for (const Inventory& inventory : found) {
         const Page page = pageOf(test::readyWith(inventory));
         EXPECT_EQ(page.header, removes);
-        EXPECT_EQ(contentOf<ReadyContent>(page).found, foundSection(inventory, paths));
+        EXPECT_EQ(contentOf<ReadyContent>(page).found, foundSection(inventory, test::machine));
     }
 }
 
@@ -89,8 +88,8 @@ TEST(Page, NothingFoundHasNoNotice) {
 TEST(Page, ReadyShowsWhatWasFoundAndTheData) {
     const Published published = in(Model::Ready{});
     const Page expected{removes,
-                        ReadyContent{std::nullopt, foundSection(published.inventory, paths),
-                                     dataSection(published, paths, false)},
+                        ReadyContent{std::nullopt, foundSection(published.inventory, test::machine),
+                                     dataSection(published, test::machine, false)},
                         footer(published), std::nullopt};
     EXPECT_EQ(pageOf(published), expected);
 }
@@ -106,8 +105,8 @@ TEST(Page, ReadyWithoutDataHasNoDataSection) {
 TEST(Page, ReadyUnfoldsTheFolders) {
     const Published published = in(Model::Ready{});
     const auto data = contentOf<ReadyContent>(pageOf(published, true)).data;
-    EXPECT_EQ(data, dataSection(published, paths, true));
-    EXPECT_NE(data, dataSection(published, paths, false));
+    EXPECT_EQ(data, dataSection(published, test::machine, true));
+    EXPECT_NE(data, dataSection(published, test::machine, false));
 }
 
 TEST(Page, ReadyShowsTheNoticeAbove) {
@@ -148,9 +147,10 @@ TEST(Page, FinishedSaysThatAllIsGone) {
     const Published published = in(Model::Finished{});
     const Header expected{"Kelmar has been removed",
                           "You can install the latest version of Kelmar whenever you're ready."};
-    EXPECT_EQ(pageOf(published),
-              (Page{expected, FinishedContent{summary(published, paths), std::nullopt, folded()},
-                    footer(published), std::nullopt}));
+    EXPECT_EQ(
+        pageOf(published),
+        (Page{expected, FinishedContent{summary(published, test::machine), std::nullopt, folded()},
+              footer(published), std::nullopt}));
 }
 
 TEST(Page, FinishedShowsTheSummaryOfTheRun) {
@@ -158,7 +158,7 @@ TEST(Page, FinishedShowsTheSummaryOfTheRun) {
     published.removed = published.inventory;
     published.deletedData = published.removed.dataFolders();
     const auto rows = contentOf<FinishedContent>(pageOf(published)).summary;
-    EXPECT_EQ(rows, summary(published, paths));
+    EXPECT_EQ(rows, summary(published, test::machine));
     EXPECT_EQ(rows.size(), 3U);
 }
 
@@ -170,7 +170,7 @@ TEST(Page, FinishedWithFailuresSaysWhatToDo) {
     EXPECT_EQ(pageOf(published),
               (Page{expected,
                     FinishedContent{
-                        summary(published, paths),
+                        summary(published, test::machine),
                         ProblemsSection{{"Not removed"}, {{"~/Kelmar/Store", "it is still there"}}},
                         folded()},
                     footer(published), std::nullopt}));
@@ -203,7 +203,7 @@ TEST(Page, FinishedUnfoldsTheRecord) {
 
 TEST(Page, AsksWhileTheQuestionIsUp) {
     Published published = in(Model::Ready{});
-    published.selectedData = {test::dataFolder(paths, Scope::me, "Store").path};
+    published.selectedData = {test::dataFolder(test::machine, Scope::me, "Store").path};
     EXPECT_EQ(pageOf(published).confirmation, std::nullopt);
     Page expected = pageOf(published);
     published.confirmingDataDeletion = true;

@@ -17,6 +17,9 @@ inline KelmarPaths machinePaths() {
     return {"", "/Users/ada", "/tmp", std::nullopt};
 }
 
+/// The same for all who only look.
+inline const KelmarPaths machine = machinePaths();
+
 inline Installation installation(const KelmarPaths& paths, Scope scope) {
     Installation one;
     one.scope = scope;

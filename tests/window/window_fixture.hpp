@@ -31,9 +31,9 @@ protected:
     /// What `program` needs to open its window on the screen, whatever desktop the tests run on.
     [[nodiscard]] Program onTheScreen(Program program) const;
 
-    /// Starts the program and waits for its window, which then has the keyboard. Throws when none
-    /// comes.
-    void open(const Program& program);
+    /// Waits for the window of the program that it starts, which then has the keyboard. Throws when
+    /// none comes.
+    void open(const Program& started);
     /// On a test root: the folder of the test.
     void open();
 
