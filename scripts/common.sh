@@ -54,6 +54,9 @@ install_packages() {
     clang_packages=(clang clang-tidy clang-format libclang-rt-dev)
     picture_packages=(fonts-inter fonts-noto-color-emoji)
     window_bench_packages=(xvfb libx11-dev libxcb1-dev libxdamage-dev)
+    macos_packages=(nodejs cmake ninja-build llvm librsvg2-bin python3)
+    macos_check_packages=(llvm python3 libplist-utils icnsutils unzip)
+    gnustep_packages=(gobjc++ libgnustep-gui-dev gnustep-back0.29-cairo xvfb libx11-dev libxtst-dev python3-clang)
     bench_packages=(libbenchmark-dev findutils coreutils time)
 }
 

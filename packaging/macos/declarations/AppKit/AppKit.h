@@ -1,0 +1,32 @@
+// All of AppKit that the program's sources use, as the framework's own header gives all of it.
+#pragma once
+
+#import <Foundation/Foundation.h>
+#import <AppKit/NSAccessibility.h>
+#import <AppKit/NSAccessibilityProtocols.h>
+#import <AppKit/NSAlert.h>
+#import <AppKit/NSApplication.h>
+#import <AppKit/NSAttributedString.h>
+#import <AppKit/NSBezierPath.h>
+#import <AppKit/NSButton.h>
+#import <AppKit/NSCell.h>
+#import <AppKit/NSColor.h>
+#import <AppKit/NSControl.h>
+#import <AppKit/NSEvent.h>
+#import <AppKit/NSFont.h>
+#import <AppKit/NSGraphics.h>
+#import <AppKit/NSImage.h>
+#import <AppKit/NSImageView.h>
+#import <AppKit/NSMenu.h>
+#import <AppKit/NSParagraphStyle.h>
+#import <AppKit/NSProgressIndicator.h>
+#import <AppKit/NSResponder.h>
+#import <AppKit/NSRunningApplication.h>
+#import <AppKit/NSScrollView.h>
+#import <AppKit/NSSwitch.h>
+#import <AppKit/NSText.h>
+#import <AppKit/NSTextField.h>
+#import <AppKit/NSTextView.h>
+#import <AppKit/NSView.h>
+#import <AppKit/NSWindow.h>
+#import <AppKit/NSWorkspace.h>

@@ -1,0 +1,7 @@
+// Apple Developer Documentation: Foundation, NSNotification
+#pragma once
+
+#import <Foundation/NSObject.h>
+
+@interface NSNotification : NSObject
+@end

@@ -1,0 +1,88 @@
+"""What must hold of the executable."""
+
+import os
+import re
+
+import declarations
+import mach_o
+from made import MINIMUM, PROJECT, llvm, output_of
+
+ARCHITECTURES = {"arm64", "x86_64"}
+FRAMEWORKS = "/System/Library/Frameworks"
+LIBRARIES = {
+    "/usr/lib/libSystem.B.dylib",
+    "/usr/lib/libobjc.A.dylib",
+    f"{FRAMEWORKS}/AppKit.framework/Versions/C/AppKit",
+    f"{FRAMEWORKS}/CoreFoundation.framework/Versions/A/CoreFoundation",
+    f"{FRAMEWORKS}/Foundation.framework/Versions/C/Foundation",
+}
+
+
+def headers(made):
+    """The load commands as text, by architecture."""
+    text = output_of("llvm-objdump", "--macho", "--arch=all", "--private-headers", str(made.executable))
+    parts = re.split(r"^.* \(architecture (\w+)\):$", text, flags=re.MULTILINE)
+    return dict(zip(parts[1::2], parts[2::2]))
+
+
+def both_architectures(made):
+    found = set(output_of(llvm("llvm-lipo"), "-archs", str(made.executable)).split())
+    if found != ARCHITECTURES:
+        yield f"{sorted(found)}"
+
+
+def minimum_version(made):
+    for architecture, text in headers(made).items():
+        build = re.search(r"cmd LC_BUILD_VERSION.*?platform (\w+).*?sdk (\S+).*?minos (\S+)", text, re.DOTALL)
+        if not build or build.group(1) != "macos" or build.group(3) != MINIMUM:
+            yield f"{architecture}: {build.groups() if build else 'no build version'}"
+        elif build.group(2) != MINIMUM:
+            yield f"{architecture}: behaves as if made with the interface of {build.group(2)}"
+
+
+def libraries(made):
+    for architecture, text in headers(made).items():
+        found = set(re.findall(r"cmd LC_\w*DYLIB\n.*?name (\S+) \(offset", text, re.DOTALL))
+        if found - LIBRARIES:
+            yield f"{architecture}: also {sorted(found - LIBRARIES)}"
+        if LIBRARIES - found:
+            yield f"{architecture}: not {sorted(LIBRARIES - found)}"
+
+
+def search_paths(made):
+    for architecture, text in headers(made).items():
+        for command in re.findall(r"cmd (LC_RPATH|LC_DYLD_ENVIRONMENT)", text):
+            yield f"{architecture}: {command}"
+
+
+def classes(made):
+    """dyld tells the runtime of Objective-C of an executable with the first of these, which then reads the second."""
+    for architecture, data in mach_o.slices(made.executable.read_bytes()).items():
+        for name in sorted({"__objc_imageinfo", "__objc_classlist"} - mach_o.section_names(data)):
+            yield f"{architecture}: no {name}"
+
+
+def signature(made):
+    slices = mach_o.slices(made.executable.read_bytes())
+    if "arm64" not in slices:
+        yield "nothing to be signed"
+    else:
+        yield from mach_o.signature_findings(slices["arm64"])
+
+
+def stripped(made):
+    data = made.executable.read_bytes()
+    # Those that a table of the executable refers to stay in; no table refers to a method.
+    if re.search(rb"\0[-+]\[\w+ [\w:]+\]", data):
+        yield "the names of methods are in it"
+    for path in {str(PROJECT), os.path.expanduser("~")} - {"/"}:
+        if path.encode() + b"/" in data:
+            yield f"{path} is in it"
+
+
+def nothing_unused(made):
+    yield from declarations.unused(str(made.executable), made.declarations)
+
+
+def pages_named(made):
+    yield from declarations.without_page(made.declarations)

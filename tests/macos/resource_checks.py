@@ -1,0 +1,106 @@
+"""What must hold of the files of the bundle, and of what is in them."""
+
+import os
+import plistlib
+import re
+
+import icon
+from made import MINIMUM, NAME, PROJECT, legacy_identifier, output_of, tree, version
+
+MOST_BYTES = 4 * 1024 * 1024
+
+# All that is in the bundle, with the modes.
+CONTENTS = {
+    ".": 0o755,
+    "Contents": 0o755,
+    "Contents/Info.plist": 0o644,
+    "Contents/MacOS": 0o755,
+    f"Contents/MacOS/{NAME}": 0o755,
+    "Contents/PkgInfo": 0o644,
+    "Contents/Resources": 0o755,
+    "Contents/Resources/kelmar-uninstaller.icns": 0o644,
+    "Contents/Resources/uninstall-as-admin.sh": 0o755,
+}
+
+
+def information():
+    """What Info.plist is to say, all of it."""
+    return {
+        "CFBundleDevelopmentRegion": "en",
+        "CFBundleDisplayName": NAME,
+        "CFBundleExecutable": NAME,
+        "CFBundleIconFile": "kelmar-uninstaller",
+        "CFBundleIdentifier": "com.kelmar.uninstaller",
+        "CFBundleInfoDictionaryVersion": "6.0",
+        "CFBundleName": NAME,
+        "CFBundlePackageType": "APPL",
+        "CFBundleShortVersionString": version(),
+        "CFBundleSupportedPlatforms": ["MacOSX"],
+        "CFBundleVersion": version(),
+        "LSApplicationCategoryType": "public.app-category.utilities",
+        "LSMinimumSystemVersion": MINIMUM,
+        "NSHighResolutionCapable": True,
+        "NSPrincipalClass": "NSApplication",
+        "NSSupportsAutomaticTermination": False,
+        "NSSupportsSuddenTermination": False,
+    }
+
+
+def what_is_in_it(made):
+    found = tree(made.bundle)
+    for path in sorted(found.keys() | CONTENTS.keys()):
+        if found.get(path) != CONTENTS.get(path):
+            yield f"{path}: {found.get(path, 'missing')}, wanted {CONTENTS.get(path, 'nothing')} (modes as numbers)"
+
+
+def script(made):
+    source = PROJECT / "admin/uninstall-as-admin.sh"
+    if (made.contents / "Resources/uninstall-as-admin.sh").read_bytes() != source.read_bytes():
+        yield "not the bytes of admin/uninstall-as-admin.sh"
+
+
+def information_list(made):
+    data = (made.contents / "Info.plist").read_bytes()
+    try:
+        # A second reader beside Python's own.
+        output_of("plistutil", "-i", str(made.contents / "Info.plist"), "-f", "bin", "-o", os.devnull)
+        found = plistlib.loads(data)
+    except Exception as error:
+        yield f"not a property list: {error}"
+        return
+    usage = found.pop("NSAppleEventsUsageDescription", "")
+    if not re.fullmatch(r"[A-Z][^.]+\.", usage):
+        yield f"NSAppleEventsUsageDescription is not one sentence: {usage!r}"
+    wanted = information()
+    for key in sorted(found.keys() | wanted.keys()):
+        if found.get(key) != wanted.get(key):
+            yield f"{key}: {found.get(key)!r}, wanted {wanted.get(key)!r}"
+    if str(found.get("CFBundleIdentifier", "")).startswith(legacy_identifier()):
+        yield "the identifier begins with the product's own: the program would remove its own settings"
+
+
+def entitlements(made):
+    found = plistlib.loads(made.entitlements.read_bytes())
+    if found != {"com.apple.security.automation.apple-events": True}:
+        yield f"{found}: not AppleScript, which asks for the password, and nothing else"
+
+
+def type_and_creator(made):
+    if (made.contents / "PkgInfo").read_bytes() != b"APPL????":
+        yield "not APPL????"
+
+
+def picture(made):
+    path = made.contents / "Resources/kelmar-uninstaller.icns"
+    yield from icon.findings_in(path.read_bytes())
+    # A second reader, for the two that aren't PNG.
+    listing = output_of("icns2png", "--list", str(path))
+    for size in (16, 32):
+        if not re.search(rf"{size}x{size} 32-bit icon .*\n.*{size}x{size} 8-bit mask", listing):
+            yield f"icns2png finds no icon of {size}"
+
+
+def size(made):
+    total = sum(path.lstat().st_size for path in made.bundle.rglob("*") if path.is_file())
+    if total >= MOST_BYTES:
+        yield f"{total} bytes"
