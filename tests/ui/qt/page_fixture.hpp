@@ -13,6 +13,19 @@
 
 namespace kelmar::test {
 
+/// Counts what is drawn anywhere.
+class PaintCount : public QObject {
+public:
+    PaintCount() { QCoreApplication::instance()->installEventFilter(this); }
+
+    bool eventFilter(QObject* /*object*/, QEvent* event) override {
+        count += event->type() == QEvent::Paint ? 1 : 0;
+        return false;
+    }
+
+    int count = 0;
+};
+
 /// A page in a window of its usual size; what its controls ask for is written down.
 class PageInAWindow : public testing::Test {
 protected:
@@ -27,8 +40,17 @@ protected:
         settle();
     }
 
-    /// Lets what was put off happen: layouts, pictures, timers of no time.
-    static void settle() { QTest::qWait(20); }
+    /// Lets what was put off happen: layouts, pictures, timers of no time. Until nothing is drawn
+    /// any more, on a busy machine too; a spinner is drawn for ever, and is not waited for that
+    /// long.
+    static void settle() {
+        PaintCount paints;
+        int drawn = -1;
+        for (int turn = 0; turn < 10 && paints.count != drawn; ++turn) {
+            drawn = paints.count;
+            QTest::qWait(20);
+        }
+    }
 
     template <class Widget>
     [[nodiscard]] Widget* seen(const QString& text) const {
