@@ -50,7 +50,9 @@
         [triangle_ setAccessibilityLabel:text];
         [log_ setName:details.toggle.text];
     }
-    [triangle_ setState:details.shown ? NSControlStateValueOn : NSControlStateValueOff];
+    if (([triangle_ state] == NSControlStateValueOn) != details.shown) {
+        [triangle_ setState:details.shown ? NSControlStateValueOn : NSControlStateValueOff];
+    }
     [card_ setHidden:details.shown ? NO : YES];
     if (details.shown) {
         [log_ render:details.log];

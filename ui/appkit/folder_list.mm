@@ -4,6 +4,7 @@
 #include "ui/appkit/from_toolkit.hpp"
 #include "ui/appkit/metrics.hpp"
 #include "ui/appkit/row_list.h"
+#include "ui/harmless_text.hpp"
 
 #include <algorithm>
 
@@ -34,12 +35,14 @@
 
 - (void)render:(const kelmar::FolderRow&)row {
     *path_ = row.path;
-    NSString* const name = kelmar::foundationText(row.name);
+    NSString* const name = kelmar::foundationText(kelmar::harmlessText(row.name));
     if (![[check_ title] isEqualToString:name]) {
         [check_ setTitle:name];
         [check_ sizeToFit];
     }
-    [check_ setState:row.checked ? NSControlStateValueOn : NSControlStateValueOff];
+    if (([check_ state] == NSControlStateValueOn) != row.checked) {
+        [check_ setState:row.checked ? NSControlStateValueOn : NSControlStateValueOff];
+    }
     [check_ setAccessibilityHelp:kelmar::foundationText(row.summary)];
     [summary_ showText:row.summary];
     [size_ render:row.size];

@@ -9,6 +9,7 @@
     KelmarIconView* const view = [[[self alloc] initWithFrame:NSZeroRect] autorelease];
     [view setImageScaling:NSImageScaleProportionallyDown];
     [view setEditable:NO];
+    [view setRefusesFirstResponder:YES]; // nor is it a stop for the keyboard
     [view setAccessibilityElement:NO];
     return view;
 }

@@ -34,17 +34,23 @@ NSString* keyEquivalentOf(ButtonKey key) {
 
 - (void)render:(const kelmar::Button&)button {
     action_ = button.action;
+    NSString* const key = kelmar::keyEquivalentOf(button.key);
+    if (![[self keyEquivalent] isEqualToString:key]) {
+        [self setKeyEquivalent:key];
+    }
     NSString* const title = kelmar::foundationText(button.text);
     if (![[self title] isEqualToString:title]) {
         [self setTitle:title];
         [self sizeToFit];
     }
-    NSString* const key = kelmar::keyEquivalentOf(button.key);
-    if (![[self keyEquivalent] isEqualToString:key]) {
-        [self setKeyEquivalent:key];
+    const BOOL enabled = button.enabled ? YES : NO;
+    if ([self isEnabled] != enabled) {
+        [self setEnabled:enabled];
     }
-    [self setEnabled:button.enabled ? YES : NO];
-    [self setHasDestructiveAction:button.destructive ? YES : NO];
+    const BOOL destructive = button.destructive ? YES : NO;
+    if ([self hasDestructiveAction] != destructive) {
+        [self setHasDestructiveAction:destructive];
+    }
 }
 
 - (void)press:(id)sender {
