@@ -1,0 +1,123 @@
+#include "system/foundation_text_macos.hpp"
+#include "tests/gnustep/harness/page_fixture.hpp"
+#include "tests/gnustep/harness/sample_pages.hpp"
+
+#include <algorithm>
+#include <set>
+
+namespace kelmar {
+namespace {
+
+using Names = std::multiset<std::string>;
+
+/// What the views tell a screen reader. Whether it is read out is the Mac's affair.
+class Accessibility : public test::PageInAWindow {
+protected:
+    /// The names that views have been given, of those that are to be seen.
+    [[nodiscard]] Names names() const {
+        Names all;
+        for (NSView* const view : test::seenViews(page)) {
+            if ([view isAccessibilityElement] && [[view accessibilityLabel] length] > 0) {
+                all.insert(plainText([view accessibilityLabel]));
+            }
+        }
+        return all;
+    }
+
+    /// Since the test began.
+    [[nodiscard]] Names announced() const {
+        NSArray* const all = KelmarAnnouncements();
+        Names texts;
+        for (NSUInteger index = before_; index < [all count]; ++index) {
+            texts.insert(plainText([all objectAtIndex:index]));
+        }
+        return texts;
+    }
+
+private:
+    NSUInteger before_ = [KelmarAnnouncements() count];
+};
+
+TEST_F(Accessibility, TheSwitchIsNamedByItsLabelAndHelpedByItsLine) {
+    render(test::readyPage());
+    NSSwitch* const toggle = test::firstSeen<NSSwitch>(page);
+    EXPECT_EQ(plainText([toggle accessibilityLabel]), "Delete Kelmar data");
+    EXPECT_EQ(plainText([toggle accessibilityHelp]),
+              "Cases, imported documents, exports, AI models and logs. You can't undo this.");
+}
+
+TEST_F(Accessibility, ACheckBoxSaysWhatItsFolderHolds) {
+    render(test::foldersPage());
+    EXPECT_EQ(plainText([seen<NSButton>("Store") accessibilityHelp]), "What is in Store");
+}
+
+TEST_F(Accessibility, ASizeSaysWhatItIsTheSizeOf) {
+    render(test::foldersPage());
+    for (const char* const name :
+         {"Store, 1.5 MB", "Logs, 4.5 MB", "CDN, Measuring…", "Delete Kelmar data, 6 MB"}) {
+        EXPECT_EQ(names().count(name), 1U) << name;
+    }
+}
+
+TEST_F(Accessibility, StagesSayHowFarTheyAre) {
+    render(test::workingPage());
+    EXPECT_EQ(names().count("Done"), 1U);
+    EXPECT_EQ(names().count("Waiting"), 2U);
+    int turning = 0;
+    for (NSView* const view : test::allSeen<NSProgressIndicator>(page)) {
+        turning += [[view accessibilityLabel] isEqualToString:@"In progress"];
+    }
+    EXPECT_EQ(turning, 1);
+}
+
+TEST_F(Accessibility, IconsThatSayNothingArePassedOver) {
+    for (const auto& [name, shown] : test::everyPage()) {
+        render(shown);
+        for (NSImageView* const view : test::allSeen<NSImageView>(page)) {
+            EXPECT_TRUE(![view isAccessibilityElement] || [[view accessibilityLabel] length] > 0)
+                << name;
+        }
+    }
+}
+
+TEST_F(Accessibility, TheDetailsAreOneControlAndOneText) {
+    render(test::workingPage(LogLines({"a line"}), true));
+    EXPECT_EQ(names().count("Details"), 1U) << "the triangle, and not its text as well";
+    EXPECT_EQ(plainText([test::firstSeen<NSTextView>(page) accessibilityLabel]), "Details");
+}
+
+TEST_F(Accessibility, EveryControlHasAName) {
+    for (const auto& [name, shown] : test::everyPage()) {
+        render(shown);
+        for (NSView* const view : test::seenViews(page)) {
+            const bool isControl =
+                [view isKindOfClass:[NSButton class]] || [view isKindOfClass:[NSSwitch class]];
+            if (isControl && [view isAccessibilityElement]) {
+                EXPECT_TRUE(!test::textOf(view).empty() || [[view accessibilityLabel] length] > 0)
+                    << name << ": " << [[view description] UTF8String];
+            }
+        }
+    }
+}
+
+TEST_F(Accessibility, AHelpfulNoteSaysItsHelp) {
+    render(test::readyPage());
+    EXPECT_EQ(plainText([seen<NSTextField>("Kelmar is open and will be closed") accessibilityHelp]),
+              "Any job Kelmar is running stops.");
+}
+
+TEST_F(Accessibility, ANewPhaseIsAnnouncedOnce) {
+    render(test::workingPage());
+    Page later = test::workingPage();
+    std::get<WorkingContent>(later.content).detail = "Removing something else";
+    later.header.subtitle = "Another minute.";
+    render(later);
+    EXPECT_NE(seen<NSTextField>("Another minute."), nil);
+    EXPECT_EQ(announced(), Names{test::workingPage().header.announcement()});
+    render(test::finishedPage());
+    EXPECT_EQ(announced().count(test::finishedPage().header.announcement()), 1U);
+    EXPECT_EQ(announced().size(), 2U);
+}
+
+} // namespace
+} // namespace kelmar

@@ -1,0 +1,104 @@
+#include "tests/gnustep/harness/views.hpp"
+
+#include "system/foundation_text_macos.hpp"
+
+#include <algorithm>
+
+namespace kelmar::test {
+
+namespace {
+
+CGFloat middle(NSView* view) {
+    return NSMidY(placeInWindow(view));
+}
+
+/// Sorts by lines: what stands at the same height, give or take a few points, is one.
+void sortForReading(std::vector<NSView*>& views) {
+    constexpr CGFloat tolerance = 5;
+    std::stable_sort(views.begin(), views.end(),
+                     [](NSView* one, NSView* other) { return middle(one) < middle(other); });
+    for (auto begin = views.begin(); begin != views.end();) {
+        const CGFloat line = middle(*begin);
+        const auto end = std::find_if(
+            begin, views.end(), [line](NSView* each) { return middle(each) > line + tolerance; });
+        std::stable_sort(begin, end, [](NSView* one, NSView* other) {
+            return NSMinX(placeInWindow(one)) < NSMinX(placeInWindow(other));
+        });
+        begin = end;
+    }
+}
+
+void collect(NSView* view, std::vector<NSView*>& found) {
+    if ([view isHidden]) {
+        return;
+    }
+    found.push_back(view);
+    for (NSView* each in [view subviews]) {
+        collect(each, found);
+    }
+}
+
+} // namespace
+
+std::vector<NSView*> seenViews(NSView* root) {
+    std::vector<NSView*> found;
+    collect(root, found);
+    return found;
+}
+
+std::string textOf(NSView* view) {
+    if ([view isKindOfClass:[NSTextField class]]) {
+        return plainText([static_cast<NSTextField*>(view) stringValue]);
+    }
+    if ([view isKindOfClass:[NSButton class]]) {
+        return plainText([static_cast<NSButton*>(view) title]);
+    }
+    if ([view isKindOfClass:[NSText class]]) {
+        return plainText([static_cast<NSText*>(view) string]);
+    }
+    return "";
+}
+
+std::vector<std::string> textsIn(NSView* root) {
+    std::vector<NSView*> views = seenViews(root);
+    std::erase_if(views, [](NSView* each) { return textOf(each).empty(); });
+    sortForReading(views);
+    std::vector<std::string> texts;
+    std::transform(views.begin(), views.end(), std::back_inserter(texts), textOf);
+    return texts;
+}
+
+NSView* viewWithText(NSView* root, const std::string& text, Class kind) {
+    const std::vector<NSView*> views = seenViews(root);
+    const auto found = std::find_if(views.begin(), views.end(), [&](NSView* each) {
+        return [each isKindOfClass:kind] && textOf(each) == text;
+    });
+    return found == views.end() ? nil : *found;
+}
+
+std::vector<std::string> symbolsIn(NSView* root) {
+    std::vector<NSView*> views;
+    for (NSImageView* const view : allSeen<NSImageView>(root)) {
+        if ([[view image] isKindOfClass:[KelmarSymbolImage class]]) {
+            views.push_back(view);
+        }
+    }
+    sortForReading(views);
+    std::vector<std::string> names;
+    for (NSView* const view : views) {
+        NSImage* const image = [static_cast<NSImageView*>(view) image];
+        names.push_back(plainText([static_cast<KelmarSymbolImage*>(image) symbolName]));
+    }
+    return names;
+}
+
+NSRect placeInWindow(NSView* view) {
+    NSView* const content = [[view window] contentView];
+    NSRect place = [view convertRect:[view bounds] toView:content];
+    if (![content isFlipped]) {
+        place.origin.y = NSHeight([content bounds]) - NSMaxY(place);
+    }
+    return place;
+}
+
+} // namespace kelmar::test

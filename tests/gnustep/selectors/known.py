@@ -1,0 +1,32 @@
+"""The lists beside this file: a name and, after "|", the reason why it is believed though it does not agree, or
+the older name that GNUstep has for it; one a line."""
+
+
+def read(path):
+    reasons = {}
+    errors = []
+    with open(path, encoding="utf-8") as file:
+        for number, line in enumerate(file, 1):
+            name, bar, reason = (each.strip() for each in line.partition("|"))
+            if not name or name.startswith("#"):
+                continue
+            if not bar or not reason:
+                errors.append(f"{path}:{number}: no reason")
+            elif name in reasons:
+                errors.append(f"{path}:{number}: a second time: {name}")
+            reasons[name] = reason
+    return reasons, errors
+
+
+def complaints(comparison, absent, different, renamed):
+    """What neither agrees nor is known, and what is known and not so."""
+    lines = [f"not in GNUstep, and not listed: {each}" for each in sorted(comparison.absent - absent.keys())]
+    lines += [f"listed as not in GNUstep, and there, or not declared: {each}"
+              for each in sorted(absent.keys() - comparison.absent)]
+    lines += [f"listed as renamed, and there by its own name, or not declared: {each}"
+              for each in sorted(renamed.keys() - comparison.renamed)]
+    lines += [f"different, and not listed: {each}: {comparison.different[each]}"
+              for each in sorted(comparison.different.keys() - different.keys())]
+    lines += [f"listed as different, and the same, or not declared: {each}"
+              for each in sorted(different.keys() - comparison.different.keys())]
+    return lines

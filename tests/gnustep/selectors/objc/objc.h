@@ -1,0 +1,4 @@
+// See NSObjCRuntime.h.
+#pragma once
+
+#include <objc/NSObjCRuntime.h>
