@@ -3,7 +3,6 @@
 #import "tests/gnustep/stand_ins/accessibility.h"
 #import "tests/gnustep/stand_ins/controls.h"
 #import "tests/gnustep/stand_ins/dispatch/main_queue.h"
-#import "tests/gnustep/stand_ins/hiding.h"
 #import "tests/gnustep/stand_ins/scroll_views.h"
 #import "tests/gnustep/stand_ins/sheets.h"
 #import "tests/gnustep/stand_ins/side_values.h"
@@ -13,7 +12,6 @@ void KelmarInstallStandIns() {
     KelmarInstallAccessibility();
     KelmarInstallControls();
     KelmarInstallSideValues();
-    KelmarInstallHiding();
     KelmarInstallScrollViews();
     KelmarInstallSheets();
 }
