@@ -1,14 +1,14 @@
 #include "tests/gnustep/harness/turning.hpp"
+#include "tests/ui/dispatcher_contract.hpp"
 #include "tests/window/patience.hpp"
 #include "ui/appkit/queue_dispatcher.hpp"
 
 #include <gtest/gtest.h>
 
-#include <algorithm>
-#include <array>
 #include <atomic>
+#include <chrono>
+#include <memory>
 #include <thread>
-#include <vector>
 
 #import <AppKit/AppKit.h>
 #include <dispatch/dispatch.h>
@@ -32,58 +32,20 @@
 namespace kelmar {
 namespace {
 
-TEST(Dispatcher, RunsJobsOnTheMainThreadInTheOrderOfPosting) {
-    QueueDispatcher dispatcher;
-    std::vector<int> order;
-    bool elsewhere = false;
-    std::thread poster([&] {
-        for (int number = 0; number < 10'000; ++number) {
-            dispatcher.toMain([&, number] {
-                order.push_back(number);
-                elsewhere = elsewhere || [NSThread isMainThread] == NO;
-            });
-        }
-    });
-    EXPECT_TRUE(test::eventually([&] { return order.size() == 10'000; }));
-    poster.join();
-    EXPECT_TRUE(std::is_sorted(order.begin(), order.end()));
-    EXPECT_FALSE(elsewhere);
-}
+using test::DispatcherContract;
 
-TEST(Dispatcher, RunsNoJobBeforeItReturns) {
-    QueueDispatcher dispatcher;
-    bool ran = false;
-    dispatcher.toMain([&] { ran = true; });
-    EXPECT_FALSE(ran);
-    EXPECT_TRUE(test::eventually([&] { return ran; }));
-}
+INSTANTIATE_TEST_SUITE_P(AppKit, DispatcherContract,
+                         testing::Values(test::DispatcherWithALoop{
+                             []() -> std::unique_ptr<Dispatcher> {
+                                 return std::make_unique<QueueDispatcher>();
+                             }, &test::eventually}));
 
-TEST(Dispatcher, RunsAJobThatAJobPosts) {
+TEST(Dispatcher, RunsJobsOnTheThreadThatTheToolkitTakesForTheMainOne) {
     QueueDispatcher dispatcher;
-    int depth = 0;
-    dispatcher.toMain([&] {
-        ++depth;
-        dispatcher.toMain([&] { ++depth; });
-    });
-    EXPECT_TRUE(test::eventually([&] { return depth == 2; }));
-}
-
-TEST(Dispatcher, LosesNothingOfManyThreads) {
-    QueueDispatcher dispatcher;
-    constexpr int each = 20'000;
-    int count = 0;
-    std::array<std::thread, 4> posters;
-    for (std::thread& poster : posters) {
-        poster = std::thread([&] {
-            for (int number = 0; number < each; ++number) {
-                dispatcher.toMain([&] { ++count; });
-            }
-        });
-    }
-    EXPECT_TRUE(test::eventually([&] { return count == 4 * each; }));
-    for (std::thread& poster : posters) {
-        poster.join();
-    }
+    int onMain = -1;
+    dispatcher.toMain([&] { onMain = [NSThread isMainThread] == YES ? 1 : 0; });
+    EXPECT_TRUE(test::eventually([&] { return onMain != -1; }));
+    EXPECT_EQ(onMain, 1);
 }
 
 TEST(Dispatcher, UnderAFloodLeavesTheEventLoopItsShare) {
@@ -121,22 +83,6 @@ TEST(Dispatcher, RunsJobsWhileSomethingIsModalOrTheMouseIsHeld) {
     }
 }
 
-TEST(Dispatcher, RunsBackgroundJobsBesideEachOther) {
-    QueueDispatcher dispatcher;
-    std::atomic<int> meeting{0};
-    std::atomic<bool> met{false};
-    const auto meet = [&] {
-        ++meeting;
-        for (int wait = 0; wait < 2'000 && meeting != 2; ++wait) {
-            std::this_thread::sleep_for(std::chrono::milliseconds(1));
-        }
-        met = meeting == 2;
-    };
-    dispatcher.userInitiated(meet);
-    dispatcher.userInitiated(meet);
-    EXPECT_TRUE(test::eventually([&] { return met.load(); }));
-}
-
 TEST(Dispatcher, SaysWhatAPersonWaitsForAndWhatMayTakeItsTime) {
     QueueDispatcher dispatcher;
     std::atomic<unsigned> initiated{0};
@@ -146,16 +92,6 @@ TEST(Dispatcher, SaysWhatAPersonWaitsForAndWhatMayTakeItsTime) {
     EXPECT_TRUE(test::eventually([&] { return initiated != 0 && utility != 0; }));
     EXPECT_EQ(initiated, QOS_CLASS_USER_INITIATED);
     EXPECT_EQ(utility, QOS_CLASS_UTILITY);
-}
-
-/// A job's objects go with the job, whatever thread it ran on.
-TEST(Dispatcher, LetsGoOfWhatAJobHolds) {
-    QueueDispatcher dispatcher;
-    auto held = std::make_shared<int>(0);
-    dispatcher.toMain([held] {});
-    dispatcher.userInitiated([held] {});
-    dispatcher.utility([held] {});
-    EXPECT_TRUE(test::eventually([&] { return held.use_count() == 1; }));
 }
 
 } // namespace
