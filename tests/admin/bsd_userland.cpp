@@ -1,12 +1,13 @@
 #include "tests/admin/bsd_userland.hpp"
 
+#include "tests/support/can_be_made.hpp"
+
 #include <algorithm>
 #include <filesystem>
 #include <fstream>
 #include <iterator>
 #include <map>
 
-#include <sys/wait.h>
 #include <unistd.h>
 
 namespace kelmar::test {
@@ -40,24 +41,6 @@ void write(const std::string& path, const std::string& text, int permissions) {
     fs::permissions(path, fs::perms(permissions));
 }
 
-/// Tried for real, in a child so that a half-made namespace goes with it.
-bool canBeMade() {
-    const pid_t child = ::fork();
-    if (child == 0) {
-        bool made = false;
-        try {
-            const BsdUserland userland; // gone again before the child ends
-            made = true;
-        } catch (const std::exception&) {
-            made = false;
-        }
-        ::_exit(made ? 0 : 1);
-    }
-    int status = -1;
-    ::waitpid(child, &status, 0);
-    return status == 0;
-}
-
 } // namespace
 
 std::optional<std::string> BsdUserland::obstacle() {
@@ -67,7 +50,7 @@ std::optional<std::string> BsdUserland::obstacle() {
     if (!fs::is_symlink("/bin") || !fs::exists("/usr/bin/setpriv")) {
         return "a Mac's tools are made of this machine's in /usr/bin, and not all are there";
     }
-    static const bool works = canBeMade();
+    static const bool works = canBeMade<BsdUserland>();
     return works ? std::nullopt
                  : std::optional<std::string>("this machine lets nobody mount anything");
 }

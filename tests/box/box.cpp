@@ -1,5 +1,7 @@
 #include "tests/box/box.hpp"
 
+#include "tests/support/can_be_made.hpp"
+
 #include <cerrno>
 #include <csignal>
 #include <cstring>
@@ -39,22 +41,9 @@ std::optional<std::string> Box::obstacle() {
     if (::getuid() != 0) {
         return "a pretend Mac needs mounts of its own, and so root";
     }
-    // Tried for real, in a child so that a half-made namespace goes with it.
-    const pid_t child = ::fork();
-    if (child == 0) {
-        bool made = false;
-        try {
-            const Box box; // gone again before the child ends, with all that it made
-            made = true;
-        } catch (const std::exception&) {
-            made = false;
-        }
-        ::_exit(made ? 0 : 1);
-    }
-    int status = -1;
-    ::waitpid(child, &status, 0);
-    return status == 0 ? std::nullopt
-                       : std::optional<std::string>("this machine lets nobody mount an overlay");
+    return canBeMade<Box>()
+               ? std::nullopt
+               : std::optional<std::string>("this machine lets nobody mount an overlay");
 }
 
 Box::Box() : root_(folder_ / "root") {
