@@ -1,6 +1,7 @@
 #pragma once
 
 #include "tests/admin/bsd_userland.hpp"
+#include "tests/support/lines.hpp"
 #include "tests/support/mac_tree.hpp"
 #include "tests/support/snapshot.hpp"
 
@@ -8,7 +9,6 @@
 
 #include <algorithm>
 #include <filesystem>
-#include <fstream>
 #include <map>
 #include <memory>
 #include <string>
@@ -68,14 +68,7 @@ protected:
         return userland->program("/bin/bash", arguments).run();
     }
 
-    [[nodiscard]] Lines statusLines() const {
-        Lines lines;
-        std::ifstream file(outside(status));
-        for (std::string line; std::getline(file, line);) {
-            lines.push_back(line);
-        }
-        return lines;
-    }
+    [[nodiscard]] Lines statusLines() const { return linesOfFile(outside(status)); }
 
     /// Everything that the script could reach, without its status file.
     [[nodiscard]] std::map<std::string, std::string> everything() const {

@@ -1,6 +1,7 @@
 #include "tests/admin/bsd_userland.hpp"
 
 #include "tests/support/can_be_made.hpp"
+#include "tests/support/lines.hpp"
 
 #include <algorithm>
 #include <filesystem>
@@ -123,12 +124,7 @@ void BsdUserland::takeOverBash() {
 }
 
 std::vector<std::string> BsdUserland::calls() const {
-    std::vector<std::string> lines;
-    std::ifstream file(outside("/mnt/calls"));
-    for (std::string line; std::getline(file, line);) {
-        lines.push_back(line);
-    }
-    return lines;
+    return linesOfFile(outside("/mnt/calls"));
 }
 
 std::vector<std::string> BsdUserland::refusals() const {

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "tests/support/lines.hpp"
 #include "tests/support/mac_tree.hpp"
 #include "tests/support/program.hpp"
 #include "tests/support/temporary_folder.hpp"
@@ -7,7 +8,6 @@
 #include <gtest/gtest.h>
 
 #include <filesystem>
-#include <fstream>
 #include <string>
 #include <vector>
 
@@ -46,14 +46,7 @@ protected:
         return statusLines();
     }
 
-    [[nodiscard]] Lines statusLines() const {
-        Lines lines;
-        std::ifstream file(status);
-        for (std::string line; std::getline(file, line);) {
-            lines.push_back(line);
-        }
-        return lines;
-    }
+    [[nodiscard]] Lines statusLines() const { return linesOfFile(status); }
 
     [[nodiscard]] std::string system(const std::string& rest) const {
         return tree.paths().systemRoot + rest;

@@ -5,6 +5,7 @@
 #include "tests/support/snapshot.hpp"
 #include "tests/support/unremovable.hpp"
 
+#include <fstream>
 #include <sstream>
 
 #include <fcntl.h>

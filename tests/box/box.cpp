@@ -1,6 +1,7 @@
 #include "tests/box/box.hpp"
 
 #include "tests/support/can_be_made.hpp"
+#include "tests/support/lines.hpp"
 
 #include <cerrno>
 #include <csignal>
@@ -187,12 +188,7 @@ Program Box::uninstaller(const std::vector<std::string>& arguments) const {
 }
 
 std::vector<std::string> Box::asked() const {
-    std::vector<std::string> lines;
-    std::ifstream file(outside("/box/asked"));
-    for (std::string line; std::getline(file, line);) {
-        lines.push_back(line);
-    }
-    return lines;
+    return linesOfFile(outside("/box/asked"));
 }
 
 } // namespace kelmar::test

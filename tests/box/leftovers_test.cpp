@@ -3,6 +3,7 @@
 namespace kelmar {
 namespace {
 
+using test::linesOf;
 using test::ProgramEnd;
 
 class Leftovers : public test::UninstallOnAPretendMac {

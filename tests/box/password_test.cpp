@@ -2,11 +2,13 @@
 #include "tests/box/uninstall_fixture.hpp"
 
 #include <fstream>
+#include <sstream>
 
 namespace kelmar {
 namespace {
 
 using test::Box;
+using test::linesOf;
 using test::ProgramEnd;
 
 /// With the real sudo, for a real user with a real password.

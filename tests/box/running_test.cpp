@@ -14,6 +14,7 @@
 namespace kelmar {
 namespace {
 
+using test::linesOf;
 using test::ProgramEnd;
 
 /// The app and its services, running while they are uninstalled.

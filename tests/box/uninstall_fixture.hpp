@@ -1,13 +1,13 @@
 #pragma once
 
 #include "tests/box/box.hpp"
+#include "tests/support/lines.hpp"
 
 #include <gtest/gtest.h>
 
 #include <algorithm>
 #include <filesystem>
 #include <memory>
-#include <sstream>
 #include <string>
 #include <vector>
 
@@ -49,15 +49,6 @@ protected:
 
     [[nodiscard]] ProgramEnd uninstall(const std::string& data) const {
         return box->uninstaller({"--uninstall", data}).run();
-    }
-
-    [[nodiscard]] static Lines linesOf(const std::string& text) {
-        Lines lines;
-        std::istringstream stream(text);
-        for (std::string line; std::getline(stream, line);) {
-            lines.push_back(line);
-        }
-        return lines;
     }
 
     /// What the stand-ins were asked, without the scans' questions that only look.

@@ -4,6 +4,7 @@
 namespace kelmar {
 namespace {
 
+using test::linesOf;
 using test::ProgramEnd;
 using test::UninstallOnAPretendMac;
 

@@ -2,6 +2,7 @@
 #include "tests/gnustep/harness/input.hpp"
 #include "tests/gnustep/harness/page_fixture.hpp"
 #include "tests/gnustep/harness/sample_pages.hpp"
+#include "tests/ui/samples.hpp"
 
 #include <chrono>
 
@@ -10,14 +11,6 @@ namespace {
 
 class Log : public test::PageInAWindow {
 protected:
-    static LogLines lines(int count) {
-        LogLines log;
-        for (int number = 0; number < count; ++number) {
-            log.append("Removed ~/Library/" + std::to_string(number));
-        }
-        return log;
-    }
-
     void show(const LogLines& log) { render(test::workingPage(log, true)); }
 
     [[nodiscard]] NSTextView* text() const { return test::firstSeen<NSTextView>(page); }
@@ -85,7 +78,7 @@ TEST_F(Log, IsSelectedAndCopiedByWhatTheMenuAsks) {
 }
 
 TEST_F(Log, KeepsTheSelectionAndThePlaceOfWhoReads) {
-    LogLines log = lines(300);
+    LogLines log = test::removedLines(300);
     show(log);
     [text() setSelectedRange:NSMakeRange(40, 25)];
     scrollTo(150);
@@ -104,7 +97,7 @@ TEST_F(Log, KeepsTheSelectionAndThePlaceOfWhoReads) {
 }
 
 TEST_F(Log, KeepsASelectionOfEverythingAtWhatWasThere) {
-    LogLines log = lines(3);
+    LogLines log = test::removedLines(3);
     show(log);
     [text() selectAll:nil];
     const NSRange before = [text() selectedRange];
@@ -114,7 +107,7 @@ TEST_F(Log, KeepsASelectionOfEverythingAtWhatWasThere) {
 }
 
 TEST_F(Log, StaysAtTheEndForWhoReadsThere) {
-    LogLines log = lines(100);
+    LogLines log = test::removedLines(100);
     show(log);
     EXPECT_TRUE(isAtEnd());
     for (int times = 0; times < 30; ++times) {
@@ -126,7 +119,7 @@ TEST_F(Log, StaysAtTheEndForWhoReadsThere) {
 }
 
 TEST_F(Log, StaysAtTheEndWhenItsHeightChanges) {
-    const LogLines log = lines(100);
+    const LogLines log = test::removedLines(100);
     show(log);
     Page finished = test::problemsPage(log, true);
     auto& problems = std::get<FinishedContent>(finished.content).problems->rows;

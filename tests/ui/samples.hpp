@@ -20,6 +20,15 @@ inline KelmarPaths machinePaths() {
 /// The same for all who only look.
 inline const KelmarPaths machine = machinePaths();
 
+/// A record of so many lines.
+inline LogLines removedLines(int count) {
+    LogLines log;
+    for (int number = 0; number < count; ++number) {
+        log.append("Removed ~/Library/" + std::to_string(number));
+    }
+    return log;
+}
+
 inline Installation installation(const KelmarPaths& paths, Scope scope) {
     Installation one;
     one.scope = scope;

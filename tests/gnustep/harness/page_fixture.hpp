@@ -2,6 +2,7 @@
 
 #include "tests/gnustep/harness/turning.hpp"
 #include "tests/gnustep/harness/views.hpp"
+#include "tests/ui/asked.hpp"
 #include "ui/appkit/page_view.h"
 
 #include <gtest/gtest.h>
@@ -26,15 +27,12 @@ protected:
     }
 
     std::vector<std::string> asked;
-    WindowActions actions;
+    WindowActions actions = writingTo(asked);
     NSWindow* window = nil;
     KelmarPageView* page = nil;
 
 private:
     NSAutoreleasePool* pool_ = [NSAutoreleasePool new];
 };
-
-/// How `asked` has it.
-std::string asking(Action action);
 
 } // namespace kelmar::test

@@ -2,12 +2,7 @@
 
 namespace kelmar::test {
 
-PageInAWindow::PageInAWindow()
-    : actions{[this](Action action) { asked.push_back(asking(action)); },
-              [this](bool all) { asked.emplace_back(all ? "delete all" : "delete none"); },
-              [this](const std::string& path, bool selected) {
-                  asked.push_back((selected ? "select " : "leave ") + path);
-              }} {
+PageInAWindow::PageInAWindow() {
     const NSRect frame = NSMakeRect(100, 100, 600, 620);
     window = [[NSWindow alloc] initWithContentRect:frame styleMask:NSWindowStyleMaskTitled
                                            backing:NSBackingStoreBuffered
@@ -30,10 +25,6 @@ PageInAWindow::~PageInAWindow() {
 void PageInAWindow::render(const Page& shown) {
     [page render:shown];
     settle();
-}
-
-std::string asking(Action action) {
-    return "action " + std::to_string(static_cast<int>(action));
 }
 
 } // namespace kelmar::test

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "tests/ui/asked.hpp"
 #include "tests/ui/qt/widgets.hpp"
 #include "ui/qt/page_widget.hpp"
 #include "ui/qt/text_label.hpp"
@@ -68,17 +69,8 @@ protected:
     }
 
     std::vector<std::string> asked;
-    PageWidget window{WindowActions{
-        [this](Action action) { asked.push_back("action " + std::to_string(int(action))); },
-        [this](bool all) { asked.emplace_back(all ? "delete all" : "delete none"); },
-        [this](const std::string& path, bool selected) {
-            asked.push_back((selected ? "select " : "leave ") + path);
-        }}};
+    PageWidget window{writingTo(asked)};
 };
-
-inline std::string asking(Action action) {
-    return "action " + std::to_string(static_cast<int>(action));
-}
 
 /// A page on which there is a choice.
 inline Page readyPage() {

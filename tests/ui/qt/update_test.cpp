@@ -1,4 +1,5 @@
 #include "tests/ui/qt/page_fixture.hpp"
+#include "tests/ui/samples.hpp"
 #include "ui/qt/check_box.hpp"
 #include "ui/qt/log_view.hpp"
 #include "ui/qt/size_label.hpp"
@@ -40,14 +41,6 @@ public:
 
 class Update : public test::PageInAWindow {
 protected:
-    static LogLines lines(int count) {
-        LogLines log;
-        for (int number = 0; number < count; ++number) {
-            log.append("Removed ~/Library/" + std::to_string(number));
-        }
-        return log;
-    }
-
     [[nodiscard]] QScrollBar& scroll() const {
         return *window.findChild<QScrollArea*>()->verticalScrollBar();
     }
@@ -109,7 +102,7 @@ TEST_F(Update, KeepsThePlaceInTheScrolledPage) {
     scroll().setValue(500);
     content.problems->rows.at(3).reason = "a disk is mounted inside it";
     content.details.shown = true;
-    content.details.log = lines(10);
+    content.details.log = test::removedLines(10);
     render(finished);
     EXPECT_EQ(scroll().value(), 500);
 }
@@ -125,7 +118,7 @@ TEST_F(Update, BeginsANewPhaseAtItsTop) {
 }
 
 TEST_F(Update, KeepsTheSelectionAndThePlaceInTheDetails) {
-    LogLines log = lines(300);
+    LogLines log = test::removedLines(300);
     render(test::workingPage(log, true));
     LogView& view = *firstSeen<LogView>();
     QTextCursor cursor(view.document()->findBlockByNumber(20));
@@ -147,7 +140,7 @@ TEST_F(Update, KeepsTheSelectionAndThePlaceInTheDetails) {
 }
 
 TEST_F(Update, KeepsASelectionOfEverythingAtWhatWasThere) {
-    LogLines log = lines(3);
+    LogLines log = test::removedLines(3);
     render(test::workingPage(log, true));
     LogView& view = *firstSeen<LogView>();
     view.selectAll();
@@ -158,7 +151,7 @@ TEST_F(Update, KeepsASelectionOfEverythingAtWhatWasThere) {
 }
 
 TEST_F(Update, StaysAtTheEndOfTheDetailsForWhoReadsThere) {
-    LogLines log = lines(100);
+    LogLines log = test::removedLines(100);
     render(test::workingPage(log, true));
     LogView& view = *firstSeen<LogView>();
     EXPECT_EQ(view.verticalScrollBar()->value(), view.verticalScrollBar()->maximum());
@@ -171,7 +164,7 @@ TEST_F(Update, StaysAtTheEndOfTheDetailsForWhoReadsThere) {
 }
 
 TEST_F(Update, StaysAtTheEndOfTheDetailsWhenTheirHeightChanges) {
-    LogLines log = lines(100);
+    LogLines log = test::removedLines(100);
     render(test::workingPage(log, true));
     LogView& view = *firstSeen<LogView>();
     QScrollBar& bar = *view.verticalScrollBar();
@@ -188,7 +181,7 @@ TEST_F(Update, StaysAtTheEndOfTheDetailsWhenTheirHeightChanges) {
 }
 
 TEST_F(Update, FitsTheDetailsOfFourStagesOntoThePage) {
-    Page page = test::workingPage(lines(100), true);
+    Page page = test::workingPage(test::removedLines(100), true);
     auto& stages = std::get<WorkingContent>(page.content).stages;
     stages.resize(4, stages.back());
     render(page);
