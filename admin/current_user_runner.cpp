@@ -1,7 +1,7 @@
 #include "admin/current_user_runner.hpp"
 
-#include "system/shell.hpp"
-#include "system/text.hpp"
+#include "system/process/shell.hpp"
+#include "system/text/strings.hpp"
 
 namespace kelmar {
 

@@ -1,7 +1,7 @@
 #include "admin/password_prompt_runner.hpp"
-#include "system/shell.hpp"
-#include "system/text.hpp"
-#include "system/uuid.hpp"
+#include "system/process/shell.hpp"
+#include "system/text/strings.hpp"
+#include "system/text/uuid.hpp"
 
 #include <array>
 #include <cerrno>

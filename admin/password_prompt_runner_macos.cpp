@@ -1,8 +1,8 @@
 #include "admin/password_prompt_runner.hpp"
 #include "admin/prompt_process.hpp"
-#include "system/processes.hpp"
-#include "system/shell.hpp"
-#include "system/uuid.hpp"
+#include "system/process/processes.hpp"
+#include "system/process/shell.hpp"
+#include "system/text/uuid.hpp"
 
 #include <unistd.h>
 

@@ -1,6 +1,6 @@
 #include "admin/prompt_process.hpp"
 
-#include "system/text.hpp"
+#include "system/text/strings.hpp"
 
 #include <string_view>
 

@@ -1,11 +1,11 @@
 #include "admin/apple_script_error.hpp"
 #include "admin/prompt_process.hpp"
 #include "admin/quoting.hpp"
-#include "system/foundation_text_macos.hpp"
-#include "system/processes.hpp"
-#include "system/resources.hpp"
-#include "system/retained_macos.hpp"
-#include "system/thread_name.hpp"
+#include "system/process/processes.hpp"
+#include "system/process/resources.hpp"
+#include "system/process/retained_macos.hpp"
+#include "system/process/thread_name.hpp"
+#include "system/text/foundation_text_macos.hpp"
 
 #include <cstdio>
 #include <cstdlib>

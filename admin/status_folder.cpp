@@ -1,7 +1,7 @@
 #include "admin/status_folder.hpp"
 
-#include "system/descriptor.hpp"
-#include "system/uuid.hpp"
+#include "system/files/file_descriptor.hpp"
+#include "system/text/uuid.hpp"
 
 #include <cerrno>
 #include <filesystem>
@@ -23,7 +23,7 @@ StatusFolder::StatusFolder(const std::string& parent)
         error_ = std::error_code(errno, std::generic_category());
         return;
     }
-    const Descriptor status(::open(
+    const FileDescriptor status(::open(
         file().c_str(), O_WRONLY | O_CREAT | O_EXCL | O_NOFOLLOW | O_CLOEXEC, S_IRUSR | S_IWUSR));
     if (status.isOpen()) {
         static_cast<void>(::fchmod(status.get(), S_IRUSR | S_IWUSR));

@@ -1,7 +1,7 @@
 #include "admin/status_tail.hpp"
 
-#include "system/descriptor.hpp"
-#include "system/utf8.hpp"
+#include "system/files/file_descriptor.hpp"
+#include "system/text/utf8.hpp"
 
 #include <cerrno>
 #include <chrono>
@@ -20,7 +20,7 @@ constexpr std::chrono::milliseconds period{200};
 
 /// The bytes of `path` from `offset` to where the file ends now.
 std::string bytesFrom(const std::string& path, std::uint64_t offset) {
-    const Descriptor file(::open(path.c_str(), O_RDONLY | O_CLOEXEC | O_NONBLOCK));
+    const FileDescriptor file(::open(path.c_str(), O_RDONLY | O_CLOEXEC | O_NONBLOCK));
 
     struct stat status {};
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "system/serial_queue.hpp"
+#include "system/process/serial_queue.hpp"
 
 #include <atomic>
 #include <cstdint>

@@ -3,7 +3,7 @@
 #include "app/scan_listing.hpp"
 #include "app/uninstall_command.hpp"
 #include "discovery/kelmar_paths.hpp"
-#include "system/standard_streams.hpp"
+#include "system/process/standard_streams.hpp"
 
 #include <algorithm>
 #include <string_view>

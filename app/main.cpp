@@ -1,8 +1,8 @@
 #include "admin/prompt_process.hpp"
 #include "app/command_line_tool.hpp"
 #include "app/window_application.hpp"
-#include "system/process_setup.hpp"
-#include "system/standard_streams.hpp"
+#include "system/process/process_setup.hpp"
+#include "system/process/standard_streams.hpp"
 
 #include <cstdint>
 #include <cstdlib>

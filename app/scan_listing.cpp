@@ -2,9 +2,9 @@
 
 #include "discovery/inventory.hpp"
 #include "discovery/scanner.hpp"
-#include "system/byte_count.hpp"
-#include "system/standard_streams.hpp"
-#include "system/text.hpp"
+#include "system/process/standard_streams.hpp"
+#include "system/text/byte_count.hpp"
+#include "system/text/strings.hpp"
 
 #include <cstdint>
 #include <optional>

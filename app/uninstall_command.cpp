@@ -2,7 +2,7 @@
 
 #include "discovery/scanner.hpp"
 #include "engine/uninstaller.hpp"
-#include "system/standard_streams.hpp"
+#include "system/process/standard_streams.hpp"
 
 #include <map>
 #include <set>

@@ -1,6 +1,6 @@
 #include "app/window_application.hpp"
-#include "system/resources.hpp"
-#include "system/standard_streams.hpp"
+#include "system/process/resources.hpp"
+#include "system/process/standard_streams.hpp"
 
 #include <optional>
 #include <string>

@@ -1,7 +1,7 @@
 #include "bench/painted_application.hpp"
 
 #include "bench/require.hpp"
-#include "ui/qt/page_widget.hpp"
+#include "ui/qt/page.hpp"
 
 #include <QAbstractEventDispatcher>
 #include <QEvent>

@@ -6,7 +6,7 @@
 #include "bench/pair_reporter.hpp"
 #include "bench/require.hpp"
 #include "discovery/scanner.hpp"
-#include "system/shell.hpp"
+#include "system/process/shell.hpp"
 #include "tests/support/mac_tree.hpp"
 
 #include <benchmark/benchmark.h>

@@ -1,7 +1,7 @@
 #include "bench/virtual_screen.hpp"
 
 #include "bench/require.hpp"
-#include "system/descriptor.hpp"
+#include "system/files/file_descriptor.hpp"
 
 #include <array>
 #include <csignal>
@@ -45,8 +45,8 @@ void leaveTheSession() {
 VirtualScreen::VirtualScreen() {
     std::array<int, 2> ends{};
     require(::pipe2(ends.data(), O_CLOEXEC) == 0, "a pipe to the X server");
-    const Descriptor reading(ends[0]);
-    Descriptor writing(ends[1]);
+    const FileDescriptor reading(ends[0]);
+    FileDescriptor writing(ends[1]);
     const std::string number = std::to_string(writing.get());
     server_ = ::fork();
     require(server_ >= 0, "a process for the X server");
@@ -59,7 +59,7 @@ VirtualScreen::VirtualScreen() {
                  "-nolisten", "tcp", "-noreset", nullptr);
         ::_exit(EXIT_FAILURE);
     }
-    writing = Descriptor();
+    writing = FileDescriptor();
     const std::string display = displayNumber(reading.get());
     require(!display.empty(), "an X server: Xvfb did not start");
     leaveTheSession();

@@ -9,8 +9,8 @@
 #include "bench/virtual_screen.hpp"
 #include "tests/support/mac_tree.hpp"
 #include "tests/support/scripted_runner.hpp"
+#include "ui/qt/dispatcher.hpp"
 #include "ui/qt/log_view.hpp"
-#include "ui/qt/qt_dispatcher.hpp"
 
 #include <QTimer>
 #include <algorithm>

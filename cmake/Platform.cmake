@@ -1,4 +1,4 @@
-# The platform, as it stands in the names of platform sources: system/processes_linux.cpp. Everything that
+# The platform, as it stands in the names of platform sources: system/process/processes_linux.cpp. Everything that
 # a platform decides for the build is decided here, once.
 if(CMAKE_SYSTEM_NAME STREQUAL "Linux")
   set(KELMAR_PLATFORM linux)
@@ -13,14 +13,21 @@ else()
   message(FATAL_ERROR "There are no platform sources for ${CMAKE_SYSTEM_NAME} yet.")
 endif()
 
-# Adds the platform's source of each seam to a room: C++, or Objective-C++ where only that will do.
+# Adds the platform's source of each seam to a room: C++, or Objective-C++ where only that will do; where the
+# platform has none, the portable one.
 function(kelmar_platform_sources room)
   foreach(seam IN LISTS ARGN)
-    set(source ${CMAKE_CURRENT_SOURCE_DIR}/${seam}_${KELMAR_PLATFORM}.mm)
-    if(NOT EXISTS ${source})
-      set(source ${CMAKE_CURRENT_SOURCE_DIR}/${seam}_${KELMAR_PLATFORM}.cpp)
+    set(found FALSE)
+    foreach(ending IN ITEMS ${KELMAR_PLATFORM}.mm ${KELMAR_PLATFORM}.cpp portable.cpp)
+      set(source ${CMAKE_CURRENT_SOURCE_DIR}/${seam}_${ending})
+      if(NOT found AND EXISTS ${source})
+        target_sources(${room} PRIVATE ${source})
+        set(found TRUE)
+      endif()
+    endforeach()
+    if(NOT found)
+      message(FATAL_ERROR "The seam ${seam} has no source for ${KELMAR_PLATFORM}.")
     endif()
-    target_sources(${room} PRIVATE ${source})
   endforeach()
 endfunction()
 

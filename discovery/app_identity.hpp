@@ -1,7 +1,7 @@
 #pragma once
 
 #include "discovery/kelmar_paths.hpp"
-#include "system/running_applications.hpp"
+#include "system/process/running_applications.hpp"
 
 namespace kelmar {
 

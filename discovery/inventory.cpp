@@ -1,6 +1,7 @@
 #include "discovery/inventory.hpp"
 
 #include <algorithm>
+#include <iterator>
 
 namespace kelmar {
 
@@ -53,21 +54,27 @@ std::optional<Installation> Inventory::mine() const {
     return firstOf(Scope::me, installations);
 }
 
-bool Inventory::needsAdministrator(const std::set<std::string>& deleting) const {
-    if (allUsers()) {
-        return true;
+std::vector<DataFolder> Inventory::selected(const std::set<std::string>& chosen,
+                                            std::optional<Scope> scope) const {
+    std::vector<DataFolder> list;
+    for (const DataRoot& root : dataRoots) {
+        if (!scope || root.scope == *scope) {
+            std::copy_if(
+                root.folders.begin(), root.folders.end(), std::back_inserter(list),
+                [&chosen](const DataFolder& folder) { return chosen.contains(folder.path); });
+        }
     }
+    return list;
+}
+
+AdministratorReasons Inventory::administratorReasons(const std::set<std::string>& deleting) const {
     const std::optional<Installation> own = mine();
-    if (own && own->needsAdministrator) {
-        return true;
-    }
-    return std::any_of(dataRoots.begin(), dataRoots.end(), [&deleting](const DataRoot& root) {
-        return root.scope == Scope::allUsers &&
-               std::any_of(root.folders.begin(), root.folders.end(),
-                           [&deleting](const DataFolder& folder) {
-                               return deleting.contains(folder.path);
-                           });
-    });
+    return {allUsers().has_value(), own && own->needsAdministrator,
+            selected(deleting, Scope::allUsers)};
+}
+
+bool Inventory::needsAdministrator(const std::set<std::string>& deleting) const {
+    return administratorReasons(deleting).any();
 }
 
 } // namespace kelmar

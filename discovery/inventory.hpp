@@ -43,8 +43,9 @@ struct DataFolder {
         std::string_view summary;
     };
 
-    /// The one table of the product's data folders, in the order in which they are listed. Names
-    /// count exactly as they are written here.
+    /// The product's data folders, in the order in which they are listed. Names count exactly as
+    /// they are written here. `uninstall-as-admin.sh` has the names a second time, since root takes
+    /// no list from a user's program; a test keeps the two alike.
     static constexpr std::array<Known, 8> known{{
         {"Database", "Case databases"},
         {"Store", "Imported documents"},
@@ -71,6 +72,18 @@ struct DataRoot {
     friend bool operator==(const DataRoot&, const DataRoot&) = default;
 };
 
+/// Why removing something takes an administrator. What is asked for and what people are told of it
+/// follow from these alone; where a text gives one reason, the first that holds is the one.
+struct AdministratorReasons {
+    bool allUsers = false; ///< an installation for all users
+    bool ownFiles = false; ///< files in the current user's installation that are somebody else's
+    std::vector<DataFolder> sharedData; ///< the chosen folders of the shared data, in order
+
+    [[nodiscard]] bool any() const { return allUsers || ownFiles || !sharedData.empty(); }
+
+    friend bool operator==(const AdministratorReasons&, const AdministratorReasons&) = default;
+};
+
 /// The result of one scan.
 struct Inventory {
     std::vector<Installation> installations; ///< at most one a scope, `allUsers` first
@@ -92,8 +105,17 @@ struct Inventory {
     [[nodiscard]] std::optional<Installation> allUsers() const;
     [[nodiscard]] std::optional<Installation> mine() const;
 
-    /// Whether an administrator is needed to remove the product and those data folders whose paths
-    /// are in `deleting`.
+    /// The data folders whose paths are in `chosen`, in order: those of all roots, or of the roots
+    /// of one `scope`.
+    [[nodiscard]] std::vector<DataFolder> selected(const std::set<std::string>& chosen,
+                                                   std::optional<Scope> scope = std::nullopt) const;
+
+    /// Why an administrator is needed to remove the product and those data folders whose paths are
+    /// in `deleting`.
+    [[nodiscard]] AdministratorReasons
+    administratorReasons(const std::set<std::string>& deleting) const;
+
+    /// Whether there is such a reason.
     [[nodiscard]] bool needsAdministrator(const std::set<std::string>& deleting) const;
 
     friend bool operator==(const Inventory&, const Inventory&) = default;

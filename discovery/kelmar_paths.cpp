@@ -1,8 +1,8 @@
 #include "discovery/kelmar_paths.hpp"
 
 #include "discovery/identifiers.hpp"
-#include "system/path_text.hpp"
-#include "system/user_folders.hpp"
+#include "system/files/user_folders.hpp"
+#include "system/text/path_text.hpp"
 
 #include <algorithm>
 #include <cstdlib>

@@ -1,8 +1,8 @@
 #include "discovery/ownership_walk.hpp"
 
-#include "discovery/waiting_folder.hpp"
-#include "system/descriptor.hpp"
-#include "system/folder_entries.hpp"
+#include "discovery/pending_directory.hpp"
+#include "system/files/file_descriptor.hpp"
+#include "system/files/folder_entries.hpp"
 
 #include <algorithm>
 #include <atomic>
@@ -21,7 +21,7 @@ namespace kelmar {
 
 namespace {
 
-using Folder = std::shared_ptr<WaitingFolder>;
+using Folder = std::shared_ptr<PendingDirectory>;
 
 /// Below this number of waiting folders a second thread costs more than it saves.
 constexpr std::size_t worthSharing = 16;
@@ -31,11 +31,11 @@ public:
     Walk(uid_t owner, unsigned threads) : owner_(owner), threads_(threads) {}
 
     bool run(const std::string& path) {
-        Descriptor top(::open(path.c_str(), O_RDONLY | O_DIRECTORY | O_NOFOLLOW | O_CLOEXEC));
+        FileDescriptor top(::open(path.c_str(), O_RDONLY | O_DIRECTORY | O_NOFOLLOW | O_CLOEXEC));
         if (!top.isOpen()) {
             return false;
         }
-        waiting_.push_back(std::make_shared<WaitingFolder>(std::move(top)));
+        waiting_.push_back(std::make_shared<PendingDirectory>(std::move(top)));
         work(true);
         for (std::thread& helper : helpers_) {
             helper.join();
@@ -82,11 +82,11 @@ private:
 
     /// The folders directly inside `folder`; sets `refuted_` when an entry decides the question.
     std::vector<Folder> examine(const Folder& folder) {
-        Descriptor descriptor = folder->open();
+        FileDescriptor descriptor = folder->open();
         std::vector<Folder> inside;
         const auto visit = [&](const FolderEntry& entry) {
             if (entry.owner == owner_ && entry.isFolder) {
-                inside.push_back(std::make_shared<WaitingFolder>(folder, entry.name));
+                inside.push_back(std::make_shared<PendingDirectory>(folder, entry.name));
             }
             return entry.owner == owner_ && !refuted_;
         };

@@ -2,15 +2,18 @@
 
 #include "discovery/app_identity.hpp"
 #include "discovery/identifiers.hpp"
-#include "system/files.hpp"
-#include "system/property_list.hpp"
-#include "system/running_applications.hpp"
-#include "system/shell.hpp"
+#include "system/files/files.hpp"
+#include "system/mac_tools/disk_usage.hpp"
+#include "system/mac_tools/keychain.hpp"
+#include "system/mac_tools/launchctl.hpp"
+#include "system/mac_tools/pkgutil.hpp"
+#include "system/process/contract.hpp"
+#include "system/process/running_applications.hpp"
+#include "system/property_list/property_list.hpp"
 
 #include <algorithm>
+#include <limits>
 #include <string_view>
-
-#include <unistd.h>
 
 namespace kelmar::Scanner {
 
@@ -30,19 +33,12 @@ void append(std::vector<std::string>& list, const std::vector<std::string>& more
     list.insert(list.end(), more.begin(), more.end());
 }
 
-/// A command that answers by its exit status alone.
-bool succeeds(const std::string& executable, const std::vector<std::string>& arguments) {
-    return Shell::run(executable, arguments).status == 0;
-}
-
 std::vector<std::string> receipts(Scope scope, const KelmarPaths& paths) {
+    const std::optional<std::string> volume =
+        scope == Scope::me ? std::optional(paths.home) : std::nullopt;
     std::vector<std::string> known;
     for (const std::string_view identifier : {appPackageIdentifier, backendIdentifier}) {
-        std::vector<std::string> arguments{"--pkg-info", std::string(identifier)};
-        if (scope == Scope::me) {
-            append(arguments, {"--volume", paths.home});
-        }
-        if (succeeds("/usr/sbin/pkgutil", arguments)) {
+        if (Pkgutil::hasReceipt(identifier, volume)) {
             known.emplace_back(identifier);
         }
     }
@@ -51,20 +47,18 @@ std::vector<std::string> receipts(Scope scope, const KelmarPaths& paths) {
 
 std::vector<std::string> loadedServices() {
     std::vector<std::string> loaded;
-    const std::string domain = "gui/" + std::to_string(::getuid()) + "/";
     for (const std::string_view label : {apiAgentLabel, workerAgentLabel}) {
-        if (succeeds("/bin/launchctl", {"print", domain + std::string(label)})) {
+        if (Launchctl::isLoaded(label)) {
             loaded.emplace_back(label);
         }
     }
     return loaded;
 }
 
-/// Asks for the items' presence only: their contents are never read.
 std::vector<std::string> keychainItems() {
     std::vector<std::string> found;
     for (const char* const service : {"Kelmar Safe Storage", "Quobrintal Safe Storage"}) {
-        if (succeeds("/usr/bin/security", {"find-generic-password", "-s", service})) {
+        if (Keychain::hasItem(service)) {
             found.emplace_back(service);
         }
     }
@@ -162,6 +156,19 @@ Inventory scan(const KelmarPaths& paths) {
         }
     }
     return inventory;
+}
+
+std::optional<std::int64_t> size(const std::string& path) {
+    constexpr std::int64_t bytesPerKibibyte = 1024;
+    constexpr std::int64_t limit = std::numeric_limits<std::int64_t>::max() / bytesPerKibibyte;
+    const std::optional<std::int64_t> total = DiskUsage::kibibytes(path);
+    if (!total) {
+        return std::nullopt;
+    }
+    if (*total > limit || *total < -limit - 1) {
+        brokenContract("du reported a size that no disk has");
+    }
+    return *total * bytesPerKibibyte;
 }
 
 } // namespace kelmar::Scanner

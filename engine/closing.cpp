@@ -1,12 +1,11 @@
 #include "discovery/app_identity.hpp"
-#include "engine/launchctl.hpp"
 #include "engine/uninstaller.hpp"
-#include "system/executables_under.hpp"
-#include "system/files.hpp"
-#include "system/processes.hpp"
-#include "system/running_applications.hpp"
-#include "system/shell.hpp"
-#include "system/text.hpp"
+#include "system/files/files.hpp"
+#include "system/mac_tools/launchctl.hpp"
+#include "system/process/processes.hpp"
+#include "system/process/processes_under.hpp"
+#include "system/process/running_applications.hpp"
+#include "system/text/strings.hpp"
 
 #include <algorithm>
 #include <cerrno>
@@ -25,12 +24,6 @@ constexpr double politeWait = 20;
 constexpr double terminateWait = 10;
 constexpr double forcedWait = 5;
 constexpr double killWait = 3;
-
-constexpr const char* launchctl = "/bin/launchctl";
-
-std::string userDomain() {
-    return "gui/" + std::to_string(::getuid());
-}
 
 bool hasGone(pid_t process) {
     // EPERM: it is there, but somebody else's.
@@ -99,26 +92,20 @@ void Uninstaller::quitKelmar() {
 }
 
 void Uninstaller::stopServices() {
-    // launchctl(1): 3 is "no such process", 113 "could not find service": it is not loaded, which
-    // is the aim.
-    constexpr std::int32_t noSuchProcess = 3;
-    constexpr std::int32_t notFound = 113;
     if (paths.testRoot) {
         return;
     }
     for (const std::string& label : inventory.loadedServices) {
         doing("Stopping " + label);
-        const std::string target = userDomain() + "/" + label;
-        const auto plist = propertyListPath(Shell::run(launchctl, {"print", target}).output);
-        const Shell::Result bootout = Shell::run(launchctl, {"bootout", target});
-        if (bootout.status == 0 || bootout.status == noSuchProcess || bootout.status == notFound) {
-            log("Stopped " + label + ".");
-            if (plist) {
-                stoppedServices.push_back({label, *plist});
-            }
-        } else {
-            log("Could not stop " + label + ": " + trimmed(bootout.output) + " (exit " +
-                std::to_string(bootout.status) + ")");
+        const std::optional<std::string> plist = Launchctl::propertyList(label);
+        if (const std::optional<Launchctl::Complaint> complaint = Launchctl::stop(label)) {
+            log("Could not stop " + label + ": " + complaint->message + " (exit " +
+                std::to_string(complaint->status) + ")");
+            continue;
+        }
+        log("Stopped " + label + ".");
+        if (plist) {
+            stoppedServices.push_back({label, *plist});
         }
     }
 }
@@ -156,11 +143,9 @@ void Uninstaller::restartStoppedServices() {
         if (!exists(service.plist)) {
             continue; // removed meanwhile: there is nothing to start
         }
-        const Shell::Result result =
-            Shell::run(launchctl, {"bootstrap", userDomain(), service.plist});
-        log(result.status == 0
-                ? "Started " + service.label + " again."
-                : "Could not start " + service.label + " again: " + trimmed(result.output));
+        const std::optional<std::string> complaint = Launchctl::start(service.plist);
+        log(complaint ? "Could not start " + service.label + " again: " + *complaint
+                      : "Started " + service.label + " again.");
     }
 }
 

@@ -1,8 +1,12 @@
 #include "discovery/identifiers.hpp"
 #include "engine/uninstaller.hpp"
-#include "system/files.hpp"
-#include "system/shell.hpp"
-#include "system/text.hpp"
+#include "system/files/files.hpp"
+#include "system/mac_tools/keychain.hpp"
+#include "system/mac_tools/pkgutil.hpp"
+#include "system/mac_tools/preferences.hpp"
+#include "system/mac_tools/privacy_permissions.hpp"
+#include "system/process/shell.hpp"
+#include "system/text/strings.hpp"
 
 #include <algorithm>
 
@@ -25,12 +29,10 @@ void Uninstaller::remove(const std::string& path) {
 }
 
 void Uninstaller::forgetReceipt(const std::string& identifier) {
-    const Shell::Result result =
-        Shell::run("/usr/sbin/pkgutil", {"--forget", identifier, "--volume", paths.home});
-    if (result.status == 0) {
-        log("Removed the install record " + identifier + ".");
+    if (const std::optional<std::string> complaint = Pkgutil::forget(identifier, paths.home)) {
+        failures.push_back({"Install record " + identifier, *complaint});
     } else {
-        failures.push_back({"Install record " + identifier, trimmed(result.output)});
+        log("Removed the install record " + identifier + ".");
     }
 }
 
@@ -41,7 +43,7 @@ void Uninstaller::removeSettings() {
                                           preferences) != inventory.settings.end();
     if (!paths.testRoot && hasPreferences) {
         // Else the system's preferences cache, which still knows them, would write the file anew.
-        Shell::run("/usr/bin/defaults", {"delete", identifier});
+        Preferences::deleteDomain(identifier);
     }
     for (const std::string& path : inventory.settings) {
         remove(path);
@@ -52,8 +54,7 @@ void Uninstaller::removeSettings() {
         constexpr int limit = 5;
         doing("Removing the keychain item " + name);
         for (int round = 0; round < limit; ++round) {
-            if (Shell::run("/usr/bin/security", {"delete-generic-password", "-s", name}).status !=
-                0) {
+            if (!Keychain::deleteItem(name)) {
                 break;
             }
         }
@@ -86,11 +87,9 @@ void Uninstaller::resetPermissions() {
         return;
     }
     doing("Resetting Kelmar's privacy permissions");
-    const Shell::Result result =
-        Shell::run("/usr/bin/tccutil", {"reset", "All", std::string(legacyBundleIdentifier)});
-    log(result.status == 0
-            ? "Reset Kelmar's privacy permissions."
-            : "Could not reset Kelmar's privacy permissions: " + trimmed(result.output));
+    const std::optional<std::string> complaint = PrivacyPermissions::reset(legacyBundleIdentifier);
+    log(complaint ? "Could not reset Kelmar's privacy permissions: " + *complaint
+                  : "Reset Kelmar's privacy permissions.");
 }
 
 } // namespace kelmar

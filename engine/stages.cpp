@@ -9,12 +9,12 @@ std::vector<Uninstaller::TitledStage> Uninstaller::stages() const {
         inventory.appRunning) {
         list.push_back({Stage::close, "Closing Kelmar and its background services"});
     }
-    if (administratorArguments()) {
-        const bool forFiles = mine && mine->needsAdministrator;
+    const AdministratorReasons reasons = inventory.administratorReasons(selectedData);
+    if (reasons.any()) {
         list.push_back({Stage::administrator,
-                        inventory.allUsers() ? "Removing Kelmar for all users of this Mac"
-                        : forFiles           ? "Removing files only an administrator can delete"
-                                             : "Deleting the shared Kelmar data"});
+                        reasons.allUsers   ? "Removing Kelmar for all users of this Mac"
+                        : reasons.ownFiles ? "Removing files only an administrator can delete"
+                                           : "Deleting the shared Kelmar data"});
     }
     if (mine || !inventory.settings.empty() || !inventory.keychainItems.empty()) {
         list.push_back({Stage::account,

@@ -7,30 +7,18 @@
 
 namespace kelmar {
 
-namespace {
-
-std::shared_ptr<AdministratorRunner> usualRunner(bool underTestRoot) {
-    if (underTestRoot) {
+std::shared_ptr<AdministratorRunner> Uninstaller::usualRunner(const KelmarPaths& paths) {
+    if (paths.testRoot) {
         return std::make_shared<CurrentUserRunner>();
     }
     return std::make_shared<PasswordPromptRunner>();
 }
-
-} // namespace
 
 Uninstaller::Uninstaller(KelmarPaths where, Inventory found, std::set<std::string> chosenData,
                          std::shared_ptr<AdministratorRunner> runner)
     : paths(std::move(where)),
       inventory(std::move(found)),
       selectedData(std::move(chosenData)),
-      administrator(runner ? std::move(runner) : usualRunner(paths.testRoot.has_value())) {}
+      administrator(runner ? std::move(runner) : usualRunner(paths)) {}
 
 } // namespace kelmar
-
-std::size_t std::hash<kelmar::Uninstaller::Failure>::operator()(
-    const kelmar::Uninstaller::Failure& failure) const noexcept {
-    const std::hash<std::string> text;
-    // The factor keeps a path and a reason that change places apart.
-    constexpr std::size_t factor = 31;
-    return text(failure.path) * factor + text(failure.reason);
-}

@@ -2,15 +2,14 @@
 
 #include "discovery/inventory.hpp"
 #include "discovery/kelmar_paths.hpp"
+#include "engine/vocabulary.hpp"
 
-#include <cstddef>
 #include <functional>
 #include <memory>
 #include <optional>
 #include <set>
 #include <string>
 #include <string_view>
-#include <variant>
 #include <vector>
 
 #include <sys/types.h>
@@ -24,72 +23,20 @@ class AdministratorRunner;
 /// here throws.
 ///
 /// The steps are public so that each can be tested by itself; a front end calls `stages` and `run`.
-/// Its administrator members are defined in the room admin/, where their subject lives.
 class Uninstaller {
 public:
-    /// The parts of a run, in the order in which they run.
-    enum class Stage {
-        close,         ///< quit the app, stop its services and processes, reset its permissions
-        administrator, ///< what runs with an administrator's rights
-        account, ///< the current user's installation, its records, settings and keychain items
-        data,    ///< the chosen data folders of the current user
-    };
-
-    /// A stage begins.
-    struct StageStarted {
-        Stage stage;
-        friend bool operator==(const StageStarted&, const StageStarted&) = default;
-    };
-
-    /// A stage has ended; not sent for one that was cancelled.
-    struct StageFinished {
-        Stage stage;
-        friend bool operator==(const StageFinished&, const StageFinished&) = default;
-    };
-
-    /// A step begins: a short line in the present tense, "Removing ~/Library/Kelmar".
-    struct Doing {
-        std::string text;
-        friend bool operator==(const Doing&, const Doing&) = default;
-    };
-
-    /// A step has finished or failed: a line of the record.
-    struct Log {
-        std::string text;
-        friend bool operator==(const Log&, const Log&) = default;
-    };
-
-    using Event = std::variant<StageStarted, StageFinished, Doing, Log>;
+    using Stage = Uninstall::Stage;
+    using StageStarted = Uninstall::StageStarted;
+    using StageFinished = Uninstall::StageFinished;
+    using Doing = Uninstall::Doing;
+    using Log = Uninstall::Log;
+    using Event = Uninstall::Event;
+    using Failure = Uninstall::Failure;
+    using Finished = Uninstall::Finished;
+    using Cancelled = Uninstall::Cancelled;
+    using Outcome = Uninstall::Outcome;
+    using TitledStage = Uninstall::TitledStage;
     using Emit = std::function<void(const Event&)>;
-
-    /// Something left over: an absolute path, or a label such as "Install record
-    /// com.kelmar.pkg.app".
-    struct Failure {
-        std::string path;
-        std::string
-            reason; ///< a short clause without capital letter and full stop: "it is still there"
-        friend bool operator==(const Failure&, const Failure&) = default;
-    };
-
-    /// The run went through; what could not be removed.
-    struct Finished {
-        std::vector<Failure> failures;
-        friend bool operator==(const Finished&, const Finished&) = default;
-    };
-
-    /// The administrator's password was refused; nothing was removed.
-    struct Cancelled {
-        friend bool operator==(const Cancelled&, const Cancelled&) = default;
-    };
-
-    using Outcome = std::variant<Finished, Cancelled>;
-
-    /// A stage of a run and what it is called on screen.
-    struct TitledStage {
-        Stage stage;
-        std::string title;
-        friend bool operator==(const TitledStage&, const TitledStage&) = default;
-    };
 
     /// A service that was stopped, and the property list that starts it again.
     struct StoppedService {
@@ -105,11 +52,14 @@ public:
         failed,    ///< the script could not be run, or failed as a whole; a failure was recorded
     };
 
-    /// `chosenData` holds the paths of the data folders to delete. Without a `runner` the script
-    /// runs as the current user under a test root, and behind the system's password prompt
-    /// otherwise.
+    /// `chosenData` holds the paths of the data folders to delete. Without a `runner` it is the
+    /// usual one.
     Uninstaller(KelmarPaths where, Inventory found, std::set<std::string> chosenData,
                 std::shared_ptr<AdministratorRunner> runner = nullptr);
+
+    /// The runner of a real uninstall: the system's password prompt, or under a test root the
+    /// current user, who is asked for nothing.
+    static std::shared_ptr<AdministratorRunner> usualRunner(const KelmarPaths& paths);
 
     const KelmarPaths paths;
     const Inventory inventory;
@@ -160,7 +110,7 @@ public:
     /// nothing.
     [[nodiscard]] std::vector<Failure> verify() const;
 
-    // The administrator step, defined in admin/.
+    // The administrator step.
 
     /// The script's arguments but for "--status"; absent when an administrator has nothing to do.
     [[nodiscard]] std::optional<std::vector<std::string>> administratorArguments() const;
@@ -172,6 +122,12 @@ public:
     AdministratorOutcome runAsAdministrator(const std::vector<std::string>& arguments);
 
 private:
+    /// One stage of a run; false when it was cancelled.
+    bool perform(Stage stage);
+    void closeKelmar();
+    void cleanAccount();
+    void deleteData();
+
     void doing(std::string text) const { emit(Doing{std::move(text)}); }
 
     void log(std::string text) const { emit(Log{std::move(text)}); }
@@ -180,8 +136,3 @@ private:
 };
 
 } // namespace kelmar
-
-template <>
-struct std::hash<kelmar::Uninstaller::Failure> {
-    std::size_t operator()(const kelmar::Uninstaller::Failure& failure) const noexcept;
-};

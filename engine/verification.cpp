@@ -1,6 +1,6 @@
 #include "discovery/scanner.hpp"
 #include "engine/uninstaller.hpp"
-#include "system/files.hpp"
+#include "system/files/files.hpp"
 
 #include <algorithm>
 #include <iterator>

@@ -13,9 +13,10 @@ Button quit(ButtonKey key) {
 std::vector<FooterNote> notes(const UninstallerModel::Published& published) {
     const Inventory& inventory = published.inventory;
     std::vector<FooterNote> list;
-    if (inventory.needsAdministrator(published.selectedData)) {
+    const AdministratorReasons reasons = inventory.administratorReasons(published.selectedData);
+    if (reasons.any()) {
         list.push_back({"lock.fill", "Asks for an administrator's password",
-                        inventory.allUsers()
+                        reasons.allUsers
                             ? "Kelmar is installed for all users of this Mac, and only an "
                               "administrator can remove it."
                             : "Some of these files belong to the system, and only an "

@@ -1,4 +1,4 @@
-#include "system/text.hpp"
+#include "system/text/strings.hpp"
 #include "ui/sections.hpp"
 
 #include <algorithm>

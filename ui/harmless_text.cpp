@@ -1,6 +1,6 @@
 #include "ui/harmless_text.hpp"
 
-#include "system/utf8.hpp"
+#include "system/text/utf8.hpp"
 
 namespace kelmar {
 

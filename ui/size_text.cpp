@@ -1,6 +1,6 @@
 #include "ui/size_text.hpp"
 
-#include "system/byte_count.hpp"
+#include "system/text/byte_count.hpp"
 
 namespace kelmar {
 

@@ -1,5 +1,5 @@
-#include "system/files.hpp"
-#include "system/list_text.hpp"
+#include "system/files/files.hpp"
+#include "system/text/list_text.hpp"
 #include "ui/sections.hpp"
 #include "ui/size_text.hpp"
 

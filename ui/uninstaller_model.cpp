@@ -1,8 +1,7 @@
 #include "ui/uninstaller_model.hpp"
 
-#include "admin/current_user_runner.hpp"
-#include "admin/password_prompt_runner.hpp"
-#include "system/contract.hpp"
+#include "discovery/scanner.hpp"
+#include "system/process/contract.hpp"
 
 #include <algorithm>
 #include <utility>
@@ -22,10 +21,7 @@ std::set<std::string> pathsOf(const std::vector<DataFolder>& folders) {
 } // namespace
 
 std::vector<DataFolder> UninstallerModel::Published::selectedFolders() const {
-    std::vector<DataFolder> folders = inventory.dataFolders();
-    std::erase_if(folders,
-                  [this](const DataFolder& folder) { return !selectedData.contains(folder.path); });
-    return folders;
+    return inventory.selected(selectedData);
 }
 
 std::optional<std::int64_t>
@@ -43,21 +39,24 @@ UninstallerModel::Published::bytes(const std::vector<DataFolder>& folders) const
     return sum;
 }
 
-std::shared_ptr<AdministratorRunner> UninstallerModel::administratorFor(const KelmarPaths& paths) {
-    if (paths.testRoot) {
-        return std::make_shared<CurrentUserRunner>();
-    }
-    return std::make_shared<PasswordPromptRunner>();
-}
-
 UninstallerModel::UninstallerModel(KelmarPaths where, std::shared_ptr<Dispatcher> dispatcher)
-    : UninstallerModel(std::move(where), std::move(dispatcher), Sources()) {}
+    : UninstallerModel(std::move(where), std::move(dispatcher), Sources{}) {}
 
 UninstallerModel::UninstallerModel(KelmarPaths where, std::shared_ptr<Dispatcher> dispatcher,
                                    Sources sources)
     : paths(std::move(where)),
       dispatcher_(std::move(dispatcher)),
-      sources_(std::move(sources)) {}
+      sources_(std::move(sources)) {
+    if (!sources_.scan) {
+        sources_.scan = Scanner::scan;
+    }
+    if (!sources_.size) {
+        sources_.size = Scanner::size;
+    }
+    if (!sources_.administrator) {
+        sources_.administrator = Uninstaller::usualRunner;
+    }
+}
 
 bool UninstallerModel::isWorking() const {
     return std::holds_alternative<Working>(published_.phase);

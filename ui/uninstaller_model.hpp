@@ -2,7 +2,6 @@
 
 #include "discovery/inventory.hpp"
 #include "discovery/kelmar_paths.hpp"
-#include "discovery/scanner.hpp"
 #include "engine/uninstaller.hpp"
 #include "ui/dispatcher.hpp"
 #include "ui/log_lines.hpp"
@@ -90,16 +89,14 @@ public:
         friend bool operator==(const Published&, const Published&) = default;
     };
 
-    /// What the model asks of the machine. Tests put their own answers here.
+    /// What the model asks of the machine. An empty function stands for the real one:
+    /// `Scanner::scan`, `Scanner::size` and the engine's own choice of runner. Tests put their own
+    /// answers here.
     struct Sources {
-        std::function<Inventory(const KelmarPaths&)> scan = Scanner::scan;
-        std::function<std::optional<std::int64_t>(const std::string&)> size = Scanner::size;
-        std::function<std::shared_ptr<AdministratorRunner>(const KelmarPaths&)> administrator =
-            administratorFor;
+        std::function<Inventory(const KelmarPaths&)> scan;
+        std::function<std::optional<std::int64_t>(const std::string&)> size;
+        std::function<std::shared_ptr<AdministratorRunner>(const KelmarPaths&)> administrator;
     };
-
-    /// Nobody is asked for a password under a test root; elsewhere the system's own prompt asks.
-    static std::shared_ptr<AdministratorRunner> administratorFor(const KelmarPaths& paths);
 
     /// Starts nothing: see `scan`. `dispatcher` is not null.
     UninstallerModel(KelmarPaths where, std::shared_ptr<Dispatcher> dispatcher);

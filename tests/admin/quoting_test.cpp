@@ -1,5 +1,5 @@
 #include "admin/quoting.hpp"
-#include "system/shell.hpp"
+#include "system/process/shell.hpp"
 
 #include <gtest/gtest.h>
 

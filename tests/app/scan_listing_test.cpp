@@ -1,5 +1,5 @@
 #include "discovery/scanner.hpp"
-#include "system/byte_count.hpp"
+#include "system/text/byte_count.hpp"
 #include "tests/support/mac_tree.hpp"
 #include "tests/support/program.hpp"
 #include "tests/support/temporary_folder.hpp"

@@ -1,5 +1,5 @@
 #include "discovery/kelmar_paths.hpp"
-#include "system/path_text.hpp"
+#include "system/text/path_text.hpp"
 #include "tests/fuzz/require.hpp"
 
 #include <cstddef>

@@ -1,5 +1,5 @@
-#include "system/property_list.hpp"
-#include "system/utf8.hpp"
+#include "system/property_list/property_list.hpp"
+#include "system/text/utf8.hpp"
 #include "tests/fuzz/require.hpp"
 
 #include <cstddef>

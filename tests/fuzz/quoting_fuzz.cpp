@@ -1,6 +1,6 @@
 #include "admin/quoting.hpp"
-#include "system/shell.hpp"
-#include "system/utf8.hpp"
+#include "system/process/shell.hpp"
+#include "system/text/utf8.hpp"
 #include "tests/fuzz/require.hpp"
 
 #include <algorithm>

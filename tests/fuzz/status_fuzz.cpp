@@ -1,6 +1,6 @@
 #include "admin/status_line.hpp"
 #include "admin/status_tail.hpp"
-#include "system/utf8.hpp"
+#include "system/text/utf8.hpp"
 #include "tests/fuzz/require.hpp"
 
 #include <algorithm>

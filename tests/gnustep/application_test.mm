@@ -1,4 +1,4 @@
-#include "system/foundation_text_macos.hpp"
+#include "system/text/foundation_text_macos.hpp"
 #include "tests/gnustep/harness/application_fixture.hpp"
 #include "tests/gnustep/harness/input.hpp"
 #include "tests/gnustep/harness/painting.hpp"
@@ -132,7 +132,7 @@ TEST_F(WholeRun, StartsOneRunForADoubleClick) {
     UninstallerModel::Sources sources;
     sources.administrator = [&runs](const KelmarPaths& where) {
         ++runs;
-        return UninstallerModel::administratorFor(where);
+        return Uninstaller::usualRunner(where);
     };
     launchAndFind(sources);
     [delegate model].setDeleteAllData(false);

@@ -1,7 +1,7 @@
 #include "tests/gnustep/harness/turning.hpp"
 #include "tests/ui/dispatcher_contract.hpp"
 #include "tests/window/patience.hpp"
-#include "ui/appkit/queue_dispatcher.hpp"
+#include "ui/appkit/dispatcher.hpp"
 
 #include <gtest/gtest.h>
 

@@ -1,3 +1,4 @@
+#include "discovery/scanner.hpp"
 #include "tests/gnustep/harness/application_fixture.hpp"
 #include "tests/gnustep/harness/input.hpp"
 

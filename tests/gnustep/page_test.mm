@@ -1,9 +1,9 @@
-#include "system/foundation_text_macos.hpp"
+#include "system/text/foundation_text_macos.hpp"
 #include "tests/gnustep/harness/page_fixture.hpp"
 #include "tests/gnustep/harness/page_texts.hpp"
 #include "tests/gnustep/harness/pictures.hpp"
 #include "tests/gnustep/harness/sample_pages.hpp"
-#include "ui/appkit/footer_view.h"
+#include "ui/appkit/footer.h"
 
 #include <algorithm>
 

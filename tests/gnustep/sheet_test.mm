@@ -1,9 +1,9 @@
-#include "system/foundation_text_macos.hpp"
+#include "system/text/foundation_text_macos.hpp"
 #include "tests/gnustep/harness/input.hpp"
 #include "tests/gnustep/harness/page_fixture.hpp"
 #include "tests/gnustep/harness/sample_pages.hpp"
 #include "tests/gnustep/harness/turning.hpp"
-#include "ui/appkit/confirmation_sheet.h"
+#include "ui/appkit/confirmation.h"
 
 /// What the toolkit calls.
 @interface KelmarConfirmationSheet (Delegate)

@@ -1,4 +1,4 @@
-#include "system/user_folders.hpp"
+#include "system/files/user_folders.hpp"
 
 #include <gtest/gtest.h>
 

@@ -1,4 +1,4 @@
-#include "system/foundation_text_macos.hpp"
+#include "system/text/foundation_text_macos.hpp"
 #include "tests/gnustep/harness/page_fixture.hpp"
 #include "tests/gnustep/harness/painting.hpp"
 #include "tests/gnustep/harness/sample_pages.hpp"

@@ -1,4 +1,4 @@
-#include "system/foundation_text_macos.hpp"
+#include "system/text/foundation_text_macos.hpp"
 #include "tests/gnustep/harness/application_fixture.hpp"
 
 #include <cmath>

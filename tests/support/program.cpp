@@ -1,6 +1,6 @@
 #include "tests/support/program.hpp"
 
-#include "system/descriptor.hpp"
+#include "system/files/file_descriptor.hpp"
 
 #include <array>
 #include <cerrno>
@@ -24,8 +24,8 @@ namespace {
 using Clock = std::chrono::steady_clock;
 
 struct Pipe {
-    Descriptor readEnd;
-    Descriptor writeEnd;
+    FileDescriptor readEnd;
+    FileDescriptor writeEnd;
 };
 
 Pipe makePipe() {
@@ -33,7 +33,7 @@ Pipe makePipe() {
     if (::pipe2(ends.data(), O_CLOEXEC) != 0) {
         throw std::system_error(errno, std::generic_category(), "pipe2");
     }
-    return {Descriptor(ends[0]), Descriptor(ends[1])};
+    return {FileDescriptor(ends[0]), FileDescriptor(ends[1])};
 }
 
 [[noreturn]] void become(const Program& program, int output, int error) {
@@ -63,11 +63,11 @@ Pipe makePipe() {
 }
 
 /// Takes what there is; closes the end when the writer has gone.
-std::string take(Descriptor& end) {
+std::string take(FileDescriptor& end) {
     std::array<char, 65536> buffer{};
     const ssize_t count = ::read(end.get(), buffer.data(), buffer.size());
     if (count <= 0) {
-        end = Descriptor();
+        end = FileDescriptor();
         return {};
     }
     return {buffer.data(), static_cast<std::size_t>(count)};
@@ -83,8 +83,8 @@ ProgramEnd Program::run() const {
     if (child == 0) {
         become(*this, output.writeEnd.get(), error.writeEnd.get());
     }
-    output.writeEnd = Descriptor();
-    error.writeEnd = Descriptor();
+    output.writeEnd = FileDescriptor();
+    error.writeEnd = FileDescriptor();
     ProgramEnd end;
     while (output.readEnd.isOpen() || error.readEnd.isOpen()) {
         const auto waited =

@@ -1,6 +1,6 @@
 #include "tests/support/sleeper.hpp"
 
-#include "system/processes.hpp"
+#include "system/process/processes.hpp"
 
 #include <chrono>
 #include <csignal>

@@ -1,6 +1,6 @@
 #include "tests/support/unremovable.hpp"
 
-#include "system/descriptor.hpp"
+#include "system/files/file_descriptor.hpp"
 
 #include <utility>
 
@@ -13,7 +13,7 @@ namespace kelmar::test {
 namespace {
 
 bool setImmutable(const std::string& path, bool immutable) {
-    const Descriptor file(::open(path.c_str(), O_RDONLY | O_CLOEXEC | O_NONBLOCK));
+    const FileDescriptor file(::open(path.c_str(), O_RDONLY | O_CLOEXEC | O_NONBLOCK));
     unsigned flags = 0;
     constexpr unsigned bit = FS_IMMUTABLE_FL;
     if (!file.isOpen() || ::ioctl(file.get(), FS_IOC_GETFLAGS, &flags) != 0) {

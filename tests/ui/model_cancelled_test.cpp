@@ -1,3 +1,4 @@
+#include "discovery/scanner.hpp"
 #include "tests/support/snapshot.hpp"
 #include "tests/ui/model_fixture.hpp"
 
@@ -138,7 +139,7 @@ TEST_F(ModelCancelled, TheNoticeStaysUntilTheNextRun) {
 TEST_F(ModelCancelled, TheNextRunCanGoThrough) {
     runUntilRefused();
     dispatcher->settle();
-    runner = Model::administratorFor(tree.paths());
+    runner = Uninstaller::usualRunner(tree.paths());
     model->uninstall();
     dispatcher->settle();
     EXPECT_EQ(published().phase, Model::Phase(Model::Finished{}));

@@ -1,3 +1,4 @@
+#include "discovery/scanner.hpp"
 #include "tests/ui/model_fixture.hpp"
 
 #include <gtest/gtest.h>
@@ -59,7 +60,7 @@ TEST_F(ModelMeasuring, HandsASizeBackBeforeTheNextIsMeasured) {
                                                        waiting.push_back(dispatcher->main.size());
                                                        return std::optional<std::int64_t>(1);
                                                    },
-                                                   Model::administratorFor});
+                                                   Uninstaller::usualRunner});
     scan();
     dispatcher->runOne(dispatcher->later);
     EXPECT_EQ(waiting, (std::vector<std::size_t>{0, 1}));
@@ -165,7 +166,7 @@ TEST_F(ModelMeasuring, OfAFolderThatIsGoneByThenIsEmpty) {
     findData({"Store"});
     model = std::make_shared<Model>(tree.paths(), dispatcher,
                                     Model::Sources{[this](const KelmarPaths&) { return found; },
-                                                   Scanner::size, Model::administratorFor});
+                                                   Scanner::size, Uninstaller::usualRunner});
     scanAndMeasure();
     EXPECT_EQ(published().sizes, (Sizes{{mine("Store"), 0}}));
 }

@@ -1,3 +1,4 @@
+#include "discovery/scanner.hpp"
 #include "tests/ui/model_fixture.hpp"
 
 #include <gtest/gtest.h>

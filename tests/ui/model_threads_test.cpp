@@ -1,3 +1,4 @@
+#include "discovery/scanner.hpp"
 #include "tests/support/mac_tree.hpp"
 #include "tests/support/scripted_runner.hpp"
 #include "tests/support/temporary_folder.hpp"

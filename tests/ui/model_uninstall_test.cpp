@@ -1,6 +1,7 @@
 #include "admin/current_user_runner.hpp"
 #include "admin/password_prompt_runner.hpp"
-#include "system/files.hpp"
+#include "discovery/scanner.hpp"
+#include "system/files/files.hpp"
 #include "tests/ui/model_fixture.hpp"
 
 #include <gtest/gtest.h>
@@ -214,12 +215,12 @@ TEST_F(ModelUninstall, OfATreeRemovesWhatIsThereAndKeepsWhatWasNotChosen) {
 }
 
 TEST(ModelAdministrator, UnderATestRootIsTheCurrentUser) {
-    const auto runner = UninstallerModel::administratorFor(test::pathsUnder("/t"));
+    const auto runner = Uninstaller::usualRunner(test::pathsUnder("/t"));
     EXPECT_NE(dynamic_cast<CurrentUserRunner*>(runner.get()), nullptr);
 }
 
 TEST(ModelAdministrator, ElsewhereIsBehindThePasswordPrompt) {
-    const auto runner = UninstallerModel::administratorFor(test::machinePaths());
+    const auto runner = Uninstaller::usualRunner(test::machinePaths());
     EXPECT_NE(dynamic_cast<PasswordPromptRunner*>(runner.get()), nullptr);
 }
 

@@ -53,8 +53,8 @@ BackgroundProgram::BackgroundProgram(const std::string& path, std::vector<std::s
     if (::pipe2(ends.data(), O_CLOEXEC) != 0) {
         throw std::system_error(errno, std::generic_category(), "pipe2");
     }
-    line_ = Descriptor(ends[0]);
-    const Descriptor lineEnd(ends[1]);
+    line_ = FileDescriptor(ends[0]);
+    const FileDescriptor lineEnd(ends[1]);
     process_ = ::fork();
     if (process_ == 0) {
         become(path, arguments, environment, lineEnd.get());

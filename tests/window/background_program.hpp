@@ -1,6 +1,6 @@
 #pragma once
 
-#include "system/descriptor.hpp"
+#include "system/files/file_descriptor.hpp"
 
 #include <map>
 #include <string>
@@ -30,7 +30,7 @@ public:
 
 private:
     std::string path_;
-    Descriptor line_;
+    FileDescriptor line_;
     pid_t process_ = -1;
 };
 

@@ -1,7 +1,7 @@
 #include "tests/window/window_fixture.hpp"
 
-#include "discovery/disk_usage.hpp"
-#include "system/byte_count.hpp"
+#include "system/mac_tools/disk_usage.hpp"
+#include "system/text/byte_count.hpp"
 #include "tests/window/reading.hpp"
 
 #include <algorithm>
@@ -173,7 +173,7 @@ std::string Window::sizeOf(const Lines& folders) {
         Program du;
         du.path = "/usr/bin/du";
         du.arguments = {"-sk", folder};
-        sum += kibibytes(du.run().output).value_or(0) * 1024;
+        sum += DiskUsage::kibibytesIn(du.run().output).value_or(0) * 1024;
     }
     return byteCountText(sum);
 }

@@ -1,6 +1,6 @@
 #include "tests/window/window_program.hpp"
 
-#include "system/descriptor.hpp"
+#include "system/files/file_descriptor.hpp"
 
 #include <array>
 #include <cerrno>
@@ -20,8 +20,8 @@ WindowProgram::WindowProgram(Program program) {
     if (::pipe2(ends.data(), O_CLOEXEC) != 0) {
         throw std::system_error(errno, std::generic_category(), "pipe2");
     }
-    const Descriptor readEnd(ends[0]);
-    Descriptor writeEnd(ends[1]);
+    const FileDescriptor readEnd(ends[0]);
+    FileDescriptor writeEnd(ends[1]);
     program.inChild = [end = writeEnd.get(), before = std::move(program.inChild)] {
         ::prctl(PR_SET_PDEATHSIG, SIGKILL); // a test that is killed leaves no window behind
         const pid_t own = ::getpid();

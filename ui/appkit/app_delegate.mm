@@ -1,13 +1,13 @@
 #include "ui/appkit/app_delegate.h"
 
-#include "system/foundation_text_macos.hpp"
-#include "system/retained_macos.hpp"
-#include "ui/appkit/confirmation_sheet.h"
+#include "system/process/retained_macos.hpp"
+#include "system/text/foundation_text_macos.hpp"
+#include "ui/appkit/confirmation.h"
+#include "ui/appkit/dispatcher.hpp"
 #include "ui/appkit/from_toolkit.hpp"
-#include "ui/appkit/main_menu.h"
+#include "ui/appkit/menu.h"
 #include "ui/appkit/metrics.hpp"
-#include "ui/appkit/page_view.h"
-#include "ui/appkit/queue_dispatcher.hpp"
+#include "ui/appkit/page.h"
 #include "ui/appkit/run_loop_modes.h"
 
 namespace kelmar {

@@ -1,6 +1,6 @@
 #include "ui/appkit/data_section.h"
 
-#include "system/foundation_text_macos.hpp"
+#include "system/text/foundation_text_macos.hpp"
 #include "ui/appkit/folder_list.h"
 #include "ui/appkit/from_toolkit.hpp"
 #include "ui/appkit/metrics.hpp"

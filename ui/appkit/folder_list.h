@@ -1,6 +1,6 @@
 #pragma once
 
-#include "ui/appkit/card_view.h"
+#include "ui/appkit/card.h"
 #include "ui/appkit/size_label.h"
 #include "ui/window_actions.hpp"
 

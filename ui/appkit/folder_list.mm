@@ -1,6 +1,6 @@
 #include "ui/appkit/folder_list.h"
 
-#include "system/foundation_text_macos.hpp"
+#include "system/text/foundation_text_macos.hpp"
 #include "ui/appkit/from_toolkit.hpp"
 #include "ui/appkit/metrics.hpp"
 #include "ui/appkit/row_list.h"

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "ui/appkit/icon_view.h"
+#include "ui/appkit/icon.h"
 #include "ui/appkit/section.h"
 #include "ui/page.hpp"
 

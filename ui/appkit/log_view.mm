@@ -1,6 +1,6 @@
 #include "ui/appkit/log_view.h"
 
-#include "system/foundation_text_macos.hpp"
+#include "system/text/foundation_text_macos.hpp"
 
 namespace kelmar {
 

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "ui/appkit/flipped_view.h"
-#include "ui/appkit/icon_view.h"
+#include "ui/appkit/icon.h"
 #include "ui/appkit/text_label.h"
 
 /// A symbol and the text beside it: a notice, a line of the result, a note of the footer.

@@ -1,6 +1,6 @@
 #include "ui/appkit/note_row.h"
 
-#include "system/foundation_text_macos.hpp"
+#include "system/text/foundation_text_macos.hpp"
 #include "ui/appkit/metrics.hpp"
 
 #include <algorithm>

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "ui/appkit/icon_view.h"
+#include "ui/appkit/icon.h"
 #include "ui/appkit/section.h"
 
 /// One stage of a run: its state and its title.

@@ -1,6 +1,6 @@
 #include "ui/appkit/progress_section.h"
 
-#include "system/foundation_text_macos.hpp"
+#include "system/text/foundation_text_macos.hpp"
 #include "ui/appkit/metrics.hpp"
 #include "ui/appkit/row_list.h"
 #include "ui/appkit/spinner.h"

@@ -1,6 +1,6 @@
 #include "ui/appkit/push_button.h"
 
-#include "system/foundation_text_macos.hpp"
+#include "system/text/foundation_text_macos.hpp"
 #include "ui/appkit/from_toolkit.hpp"
 
 namespace kelmar {

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "ui/appkit/card_view.h"
+#include "ui/appkit/card.h"
 #include "ui/appkit/text_label.h"
 
 /// A title and a card below it. Subclasses put their rows into the card.

@@ -1,6 +1,6 @@
 #include "ui/appkit/text_label.h"
 
-#include "system/foundation_text_macos.hpp"
+#include "system/text/foundation_text_macos.hpp"
 #include "ui/appkit/flipped_view.h"
 #include "ui/harmless_text.hpp"
 

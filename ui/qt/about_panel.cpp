@@ -1,6 +1,6 @@
 #include "ui/qt/about_panel.hpp"
 
-#include "ui/qt/symbol_label.hpp"
+#include "ui/qt/icon.hpp"
 #include "ui/qt/text_label.hpp"
 
 #include <QVBoxLayout>
@@ -14,7 +14,7 @@ AboutPanel::AboutPanel(QWidget* parent) : QDialog(parent) {
     auto* const column = new QVBoxLayout(this);
     column->setContentsMargins(48, 24, 48, 24);
     column->setSpacing(8);
-    auto* const icon = new SymbolLabel(64);
+    auto* const icon = new IconLabel(64);
     icon->showPicture("kelmar-uninstaller");
     auto* const name = new TextLabel(TextStyle::heading, TextLabel::Tone::primary);
     name->showText("Kelmar Uninstaller");

@@ -1,7 +1,7 @@
 #include "ui/qt/app_delegate.hpp"
 
 #include "ui/qt/about_panel.hpp"
-#include "ui/qt/page_widget.hpp"
+#include "ui/qt/page.hpp"
 
 #include <QApplication>
 #include <utility>

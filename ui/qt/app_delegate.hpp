@@ -1,8 +1,8 @@
 #pragma once
 
 #include "ui/menu.hpp"
+#include "ui/qt/dispatcher.hpp"
 #include "ui/qt/main_window.hpp"
-#include "ui/qt/qt_dispatcher.hpp"
 #include "ui/uninstaller_view.hpp"
 
 #include <QBasicTimer>

@@ -1,6 +1,6 @@
 #include "ui/qt/busy_row.hpp"
 
-#include "ui/qt/symbol_label.hpp"
+#include "ui/qt/icon.hpp"
 #include "ui/qt/text_label.hpp"
 
 #include <QHBoxLayout>
@@ -13,7 +13,7 @@ BusyRow::BusyRow(QWidget* parent)
     auto* const row = new QHBoxLayout(this);
     row->setContentsMargins(0, 0, 0, 0);
     row->setSpacing(8);
-    auto* const spinner = new SymbolLabel(20);
+    auto* const spinner = new IconLabel(20);
     spinner->showSpinner();
     row->addWidget(spinner, 0, Qt::AlignTop);
     row->addWidget(text_, 1);

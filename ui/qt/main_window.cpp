@@ -1,7 +1,7 @@
 #include "ui/qt/main_window.hpp"
 
-#include "ui/qt/menu_bar.hpp"
-#include "ui/qt/page_widget.hpp"
+#include "ui/qt/menu.hpp"
+#include "ui/qt/page.hpp"
 #include "ui/qt/symbols.hpp"
 
 #include <QCloseEvent>

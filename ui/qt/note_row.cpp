@@ -1,6 +1,6 @@
 #include "ui/qt/note_row.hpp"
 
-#include "ui/qt/symbol_label.hpp"
+#include "ui/qt/icon.hpp"
 
 #include <QHBoxLayout>
 
@@ -9,7 +9,7 @@ namespace kelmar {
 NoteRow::NoteRow(int size, TextStyle style, TextLabel::Tone tone, QWidget* parent)
     : QWidget(parent),
       size_(size),
-      symbol_(new SymbolLabel(size)),
+      symbol_(new IconLabel(size)),
       text_(new TextLabel(style, tone)) {
     auto* const row = new QHBoxLayout(this);
     row->setContentsMargins(0, 0, 0, 0);

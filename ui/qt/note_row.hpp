@@ -7,7 +7,7 @@
 
 namespace kelmar {
 
-class SymbolLabel;
+class IconLabel;
 
 /// A symbol beside a text: a footer's note, a line of the summary, what a callout says.
 class NoteRow : public QWidget {
@@ -23,7 +23,7 @@ private:
     void showNote(const std::string& symbol, Tint tint, const std::string& text);
 
     int size_;
-    SymbolLabel* symbol_;
+    IconLabel* symbol_;
     TextLabel* text_;
 };
 

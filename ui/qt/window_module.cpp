@@ -1,4 +1,4 @@
-#include "system/standard_streams.hpp"
+#include "system/process/standard_streams.hpp"
 #include "ui/qt/accessibility.hpp"
 #include "ui/qt/app_delegate.hpp"
 

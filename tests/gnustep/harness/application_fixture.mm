@@ -1,7 +1,8 @@
 #include "tests/gnustep/harness/application_fixture.hpp"
 
 #include "admin/administrator_runner.hpp"
-#include "system/foundation_text_macos.hpp"
+#include "discovery/scanner.hpp"
+#include "system/text/foundation_text_macos.hpp"
 #include "tests/gnustep/harness/input.hpp"
 #include "tests/gnustep/harness/page_texts.hpp"
 
@@ -106,7 +107,7 @@ UninstallerModel::Sources Application::slowSizes() const {
 UninstallerModel::Sources Application::slowRun() const {
     UninstallerModel::Sources sources;
     sources.administrator = [gate = gate](const KelmarPaths& paths) {
-        return std::make_shared<WaitingRunner>(UninstallerModel::administratorFor(paths), gate);
+        return std::make_shared<WaitingRunner>(Uninstaller::usualRunner(paths), gate);
     };
     return sources;
 }

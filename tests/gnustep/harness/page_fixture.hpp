@@ -3,7 +3,7 @@
 #include "tests/gnustep/harness/turning.hpp"
 #include "tests/gnustep/harness/views.hpp"
 #include "tests/ui/asked.hpp"
-#include "ui/appkit/page_view.h"
+#include "ui/appkit/page.h"
 
 #include <gtest/gtest.h>
 

@@ -1,6 +1,6 @@
 #include "tests/gnustep/harness/views.hpp"
 
-#include "system/foundation_text_macos.hpp"
+#include "system/text/foundation_text_macos.hpp"
 
 #include <algorithm>
 

@@ -1,9 +1,10 @@
+#include "discovery/scanner.hpp"
 #include "tests/support/mac_tree.hpp"
 #include "tests/support/temporary_folder.hpp"
 #include "tests/ui/qt/widgets.hpp"
 #include "ui/qt/app_delegate.hpp"
 #include "ui/qt/check_box.hpp"
-#include "ui/qt/page_widget.hpp"
+#include "ui/qt/page.hpp"
 #include "ui/qt/push_button.hpp"
 #include "ui/qt/text_label.hpp"
 #include "ui/qt/toggle_switch.hpp"
@@ -138,7 +139,7 @@ TEST_F(Application, StartsOneRunForADoubleClick) {
     UninstallerModel::Sources sources;
     sources.administrator = [&runs](const KelmarPaths& paths) {
         ++runs;
-        return UninstallerModel::administratorFor(paths);
+        return Uninstaller::usualRunner(paths);
     };
     launch(sources);
     ASSERT_TRUE(waitFor("Found on this Mac"));

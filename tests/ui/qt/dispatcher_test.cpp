@@ -1,5 +1,5 @@
 #include "tests/ui/dispatcher_contract.hpp"
-#include "ui/qt/qt_dispatcher.hpp"
+#include "ui/qt/dispatcher.hpp"
 
 #include <gtest/gtest.h>
 

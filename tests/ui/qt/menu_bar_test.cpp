@@ -1,4 +1,4 @@
-#include "ui/qt/menu_bar.hpp"
+#include "ui/qt/menu.hpp"
 
 #include <gtest/gtest.h>
 

@@ -2,7 +2,7 @@
 
 #include "tests/ui/asked.hpp"
 #include "tests/ui/qt/widgets.hpp"
-#include "ui/qt/page_widget.hpp"
+#include "ui/qt/page.hpp"
 #include "ui/qt/text_label.hpp"
 
 #include <gtest/gtest.h>

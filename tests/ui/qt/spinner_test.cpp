@@ -1,5 +1,5 @@
 #include "tests/ui/qt/page_fixture.hpp"
-#include "ui/qt/symbol_label.hpp"
+#include "ui/qt/icon.hpp"
 
 namespace kelmar {
 namespace {
@@ -8,7 +8,7 @@ class Spinner : public test::PageInAWindow {
 protected:
     [[nodiscard]] int turning() const {
         int count = 0;
-        for (const SymbolLabel* const label : test::widgets<SymbolLabel>(window)) {
+        for (const IconLabel* const label : test::widgets<IconLabel>(window)) {
             count += label->isTurning() ? 1 : 0;
         }
         return count;
@@ -47,7 +47,7 @@ TEST_F(Spinner, BecomesACheckmarkWhenItsStageIsDone) {
 }
 
 TEST_F(Spinner, LooksDifferentAMomentLater) {
-    SymbolLabel spinner(20);
+    IconLabel spinner(20);
     spinner.showSpinner();
     spinner.show();
     QTest::qWait(20);

@@ -1,0 +1,120 @@
+#include "admin/administrator_runner.hpp"
+#include "admin/status_folder.hpp"
+#include "admin/status_line.hpp"
+#include "admin/status_tail.hpp"
+#include "engine/uninstaller.hpp"
+#include "system/process/contract.hpp"
+#include "system/process/resources.hpp"
+
+#include <exception>
+
+namespace kelmar {
+
+std::optional<std::vector<std::string>> Uninstaller::administratorArguments() const {
+    const AdministratorReasons reasons = inventory.administratorReasons(selectedData);
+    std::vector<std::string> arguments;
+    if (reasons.allUsers) {
+        arguments.emplace_back("--all-users");
+    }
+    for (const DataFolder& folder : reasons.sharedData) {
+        arguments.insert(arguments.end(), {"--shared-data", folder.path});
+    }
+    if (reasons.ownFiles) {
+        arguments.insert(arguments.end(), {"--home", paths.home});
+    }
+    if (arguments.empty()) {
+        return std::nullopt;
+    }
+    if (paths.testRoot) {
+        arguments.insert(arguments.end(), {"--test-root", paths.systemRoot});
+    }
+    return arguments;
+}
+
+std::string Uninstaller::administratorReason() const {
+    const std::string start = "Kelmar Uninstaller needs an administrator's password to ";
+    const AdministratorReasons reasons = inventory.administratorReasons(selectedData);
+    if (reasons.allUsers) {
+        return start + "remove Kelmar, which is installed for all users of this Mac.";
+    }
+    if (reasons.ownFiles) {
+        return start + "remove files of Kelmar that belong to the system.";
+    }
+    return start + "delete the Kelmar data shared by all users of this Mac.";
+}
+
+std::vector<DataFolder> Uninstaller::mySelectedData() const {
+    return inventory.selected(selectedData, Scope::me);
+}
+
+Uninstaller::AdministratorOutcome
+Uninstaller::runAsAdministrator(const std::vector<std::string>& arguments) {
+    const std::optional<std::string> script = resourcePath("uninstall-as-admin.sh");
+    if (!script) {
+        failures.push_back({"uninstall-as-admin.sh", "missing from Kelmar Uninstaller.app"});
+        return AdministratorOutcome::failed;
+    }
+    const StatusFolder folder(paths.temporaryDirectory);
+    if (folder.error()) {
+        failures.push_back({folder.path(), folder.error().message()});
+        return AdministratorOutcome::failed;
+    }
+    doing(paths.testRoot ? "Running the administrator step"
+                         : "Waiting for an administrator's password");
+
+    // The tail's last callback has returned before this function does, so `this` outlives them all.
+    StatusTail tail(folder.file(), [this](const std::string& line) { handleStatusLine(line); });
+    tail.start();
+    std::vector<std::string> all{"--status", folder.file()};
+    all.insert(all.end(), arguments.begin(), arguments.end());
+    AdministratorOutcome outcome = AdministratorOutcome::finished;
+    std::string trouble;
+    try {
+        administrator->run(*script, all, administratorReason());
+    } catch (const AdministratorError& error) {
+        outcome = error.kind() == AdministratorError::Kind::cancelled
+                      ? AdministratorOutcome::cancelled
+                      : AdministratorOutcome::failed;
+        trouble = error.what();
+    } catch (const std::exception& error) {
+        outcome = AdministratorOutcome::failed;
+        trouble = error.what();
+    }
+    tail.stop();
+
+    if (outcome == AdministratorOutcome::cancelled) {
+        log("No administrator's password was given; nothing was removed.");
+    } else if (outcome == AdministratorOutcome::failed) {
+        failures.push_back({"Administrator step", trouble});
+    } else if (!tail.sawDone()) {
+        failures.push_back({"Administrator step", "it stopped before it finished"});
+    }
+    return outcome;
+}
+
+void Uninstaller::handleStatusLine(std::string_view line) {
+    const std::optional<StatusLine> parsed = parseStatusLine(line);
+    if (!parsed) {
+        return;
+    }
+    switch (parsed->keyword) {
+    case StatusLine::Keyword::doing:
+        doing("Removing " + paths.display(parsed->subject));
+        break;
+    case StatusLine::Keyword::ok:
+        log("Removed " + paths.display(parsed->subject));
+        break;
+    case StatusLine::Keyword::log:
+        log(parsed->subject);
+        break;
+    case StatusLine::Keyword::fail:
+        if (parsed->subject.empty()) {
+            brokenContract("the administrator's script wrote a FAIL line without a path");
+        }
+        failures.push_back({parsed->subject, parsed->reason});
+        log("Could not remove " + paths.display(parsed->subject) + ": " + parsed->reason);
+        break;
+    }
+}
+
+} // namespace kelmar

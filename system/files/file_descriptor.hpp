@@ -1,0 +1,41 @@
+#pragma once
+
+#include <utility>
+
+#include <unistd.h>
+
+namespace kelmar {
+
+/// Owns an open file descriptor, or none (-1), and closes it at its end. An error of close(2) is
+/// ignored: on the systems meant here the descriptor is gone either way.
+class FileDescriptor {
+public:
+    FileDescriptor() = default;
+
+    explicit FileDescriptor(int value) : value_(value) {}
+
+    FileDescriptor(const FileDescriptor&) = delete;
+    FileDescriptor& operator=(const FileDescriptor&) = delete;
+
+    FileDescriptor(FileDescriptor&& other) noexcept : value_(std::exchange(other.value_, -1)) {}
+
+    FileDescriptor& operator=(FileDescriptor&& other) noexcept {
+        std::swap(value_, other.value_);
+        return *this;
+    }
+
+    ~FileDescriptor() {
+        if (isOpen()) {
+            ::close(value_);
+        }
+    }
+
+    [[nodiscard]] int get() const { return value_; }
+
+    [[nodiscard]] bool isOpen() const { return value_ >= 0; }
+
+private:
+    int value_ = -1;
+};
+
+} // namespace kelmar

@@ -1,0 +1,66 @@
+#include "system/files/files.hpp"
+
+#include "system/files/file_descriptor.hpp"
+#include "system/files/open_folder.hpp"
+
+#include <algorithm>
+#include <cerrno>
+
+#include <fcntl.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+namespace kelmar {
+
+bool exists(const std::string& path) {
+    struct stat status {};
+
+    return ::lstat(path.c_str(), &status) == 0;
+}
+
+std::optional<std::vector<std::string>> sortedNames(const std::string& path) {
+    const OpenFolder folder(::opendir(path.c_str()));
+    if (!folder) {
+        return std::nullopt;
+    }
+    std::vector<std::string> names;
+    while (const dirent* const entry = nextEntry(folder)) {
+        names.emplace_back(entry->d_name);
+    }
+    if (errno != 0) {
+        return std::nullopt;
+    }
+    std::sort(names.begin(), names.end());
+    return names;
+}
+
+std::optional<std::string> readFile(const std::string& path, std::size_t limit) {
+    const FileDescriptor file(::open(path.c_str(), O_RDONLY | O_CLOEXEC | O_NONBLOCK | O_NOCTTY));
+
+    struct stat status {};
+
+    if (!file.isOpen() || ::fstat(file.get(), &status) != 0 || !S_ISREG(status.st_mode) ||
+        static_cast<std::size_t>(status.st_size) > limit) {
+        return std::nullopt;
+    }
+    std::string bytes(static_cast<std::size_t>(status.st_size), '\0');
+    std::size_t length = 0;
+    while (length < bytes.size()) {
+        const ssize_t count = ::read(file.get(), &bytes[length], bytes.size() - length);
+        if (count > 0) {
+            length += static_cast<std::size_t>(count);
+        } else if (count == 0) {
+            break; // it shrank while it was read
+        } else if (errno != EINTR) {
+            return std::nullopt;
+        }
+    }
+    bytes.resize(length);
+    return bytes;
+}
+
+bool removeFile(const std::string& path) {
+    return ::unlink(path.c_str()) == 0;
+}
+
+} // namespace kelmar

@@ -1,0 +1,85 @@
+#include "system/files/attribute_records_macos.hpp"
+#include "system/files/folder_entries_portable.hpp"
+
+#include <array>
+#include <cerrno>
+#include <cstddef>
+
+#include <sys/attr.h>
+#include <sys/vnode.h>
+#include <unistd.h>
+
+namespace kelmar {
+
+namespace {
+
+constexpr std::size_t bufferSize = 32768;
+
+static_assert(AttributeBits::name == ATTR_CMN_NAME &&
+              AttributeBits::objectType == ATTR_CMN_OBJTYPE &&
+              AttributeBits::owner == ATTR_CMN_OWNERID && AttributeBits::error == ATTR_CMN_ERROR &&
+              AttributeBits::returned == ATTR_CMN_RETURNED_ATTRS &&
+              AttributeBits::folderMountStatus == ATTR_DIR_MOUNTSTATUS);
+static_assert(folderObjectType == VDIR && isMountPoint == DIR_MNTSTATUS_MNTPOINT);
+
+attrlist wanted() {
+    attrlist list{};
+    list.bitmapcount = ATTR_BIT_MAP_COUNT;
+    list.commonattr = AttributeBits::common;
+    list.dirattr = AttributeBits::folderMountStatus;
+    return list;
+}
+
+/// What a record says of its entry, or lstat(2) where the record does not say it all. For a folder
+/// with a volume mounted on it the record describes the covered folder, lstat(2) the volume.
+bool describe(int folder, const AttributeRecord& record, FolderEntry& entry) {
+    const bool covered = (record.mountStatus.value_or(0) & isMountPoint) != 0;
+    if (record.error.value_or(0) != 0 || !record.objectType || !record.owner || covered) {
+        return lookAtEntry(folder, record.name.data(), entry);
+    }
+    entry = {record.name, *record.owner, *record.objectType == folderObjectType};
+    return true;
+}
+
+FolderReading visitRecords(int folder, std::string_view bytes, int count,
+                           const std::function<bool(const FolderEntry&)>& visit) {
+    for (int index = 0; index < count; ++index) {
+        const std::optional<AttributeRecord> record = takeAttributeRecord(bytes);
+        FolderEntry entry{};
+        if (!record || !describe(folder, *record, entry)) {
+            return FolderReading::failed;
+        }
+        if (!visit(entry)) {
+            return FolderReading::stopped;
+        }
+    }
+    return FolderReading::complete;
+}
+
+} // namespace
+
+FolderReading readFolder(int descriptor, const std::function<bool(const FolderEntry&)>& visit) {
+    // NOLINTNEXTLINE(*-member-init): filled by the system before it is read
+    alignas(std::uint64_t) std::array<char, bufferSize> buffer;
+    for (bool first = true;; first = false) {
+        attrlist list = wanted();
+        const int count = ::getattrlistbulk(descriptor, &list, buffer.data(), buffer.size(), 0);
+        if (count < 0 && errno == EINTR) {
+            continue;
+        }
+        if (count < 0) {
+            // A file system without it says so at once; later, an error is one.
+            return first ? readFolderPortably(descriptor, visit) : FolderReading::failed;
+        }
+        if (count == 0) {
+            return FolderReading::complete;
+        }
+        const FolderReading reading =
+            visitRecords(descriptor, {buffer.data(), buffer.size()}, count, visit);
+        if (reading != FolderReading::complete) {
+            return reading;
+        }
+    }
+}
+
+} // namespace kelmar

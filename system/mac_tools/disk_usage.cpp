@@ -1,0 +1,28 @@
+#include "system/mac_tools/disk_usage.hpp"
+
+#include "system/process/shell.hpp"
+
+#include <algorithm>
+#include <charconv>
+
+namespace kelmar::DiskUsage {
+
+std::optional<std::int64_t> kibibytes(const std::string& path) {
+    // du exits with an error whenever it complained, also after a total that counts.
+    return kibibytesIn(Shell::run("/usr/bin/du", {"-sk", path}).output);
+}
+
+std::optional<std::int64_t> kibibytesIn(std::string_view output) {
+    constexpr std::string_view blank = " \t\n\v\f\r";
+    output.remove_prefix(std::min(output.find_first_not_of(blank), output.size()));
+    std::string_view field = output.substr(0, output.find_first_of(blank));
+    if (field.starts_with('+') && !field.starts_with("+-")) {
+        field.remove_prefix(1); // std::from_chars takes a minus sign only
+    }
+    std::int64_t value = 0;
+    const auto [end, error] = std::from_chars(field.data(), field.data() + field.size(), value);
+    const bool whole = error == std::errc{} && end == field.data() + field.size();
+    return whole ? std::optional(value) : std::nullopt;
+}
+
+} // namespace kelmar::DiskUsage

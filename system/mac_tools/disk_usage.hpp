@@ -1,0 +1,20 @@
+#pragma once
+
+#include <cstdint>
+#include <optional>
+#include <string>
+#include <string_view>
+
+/// Space on disk, through du(1).
+namespace kelmar::DiskUsage {
+
+/// The kibibytes that `path` and everything beneath it take on disk; absent when du(1) printed no
+/// total. Runs /usr/bin/du and blocks until it has ended, for minutes on a large folder. May be
+/// called from any thread.
+std::optional<std::int64_t> kibibytes(const std::string& path);
+
+/// The kibibytes that `output`, printed by `du -sk`, reports: its first field, when that is a whole
+/// decimal number. Absent otherwise, as when du printed only an error.
+std::optional<std::int64_t> kibibytesIn(std::string_view output);
+
+} // namespace kelmar::DiskUsage

@@ -1,0 +1,32 @@
+#include "system/process/spawn_setup.hpp"
+
+#include <cerrno>
+
+#include <crt_externs.h>
+#include <fcntl.h>
+#include <unistd.h>
+
+namespace kelmar {
+
+int openPrivatePipe(int (&ends)[2]) {
+    if (::pipe(ends) != 0) {
+        return errno;
+    }
+    // Between the two calls another thread may start a child. It goes through here as well, where
+    // nothing is inherited in any case; these flags are for children that a framework starts.
+    ::fcntl(ends[0], F_SETFD, FD_CLOEXEC);
+    ::fcntl(ends[1], F_SETFD, FD_CLOEXEC);
+    return 0;
+}
+
+void inheritNothingElse(posix_spawn_file_actions_t& /*actions*/, short& flags) {
+    // posix_spawnattr_setflags(3): only what the file actions made stays open in the child.
+    flags = static_cast<short>(flags | POSIX_SPAWN_CLOEXEC_DEFAULT);
+}
+
+char** environmentForChildren() {
+    return *::_NSGetEnviron(); // environ(7): the variable itself is not there for every kind of
+                               // image
+}
+
+} // namespace kelmar

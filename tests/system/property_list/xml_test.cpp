@@ -1,0 +1,51 @@
+#include "system/property_list/xml.hpp"
+
+#include <gtest/gtest.h>
+
+#include <string>
+
+namespace kelmar {
+namespace {
+
+std::string repeated(std::string_view word, int times) {
+    std::string text;
+    for (int time = 0; time < times; ++time) {
+        text += word;
+    }
+    return text;
+}
+
+TEST(XmlPropertyList, OfAnOrdinarySizeIsModest) {
+    EXPECT_TRUE(isModestXmlPropertyList(""));
+    EXPECT_TRUE(isModestXmlPropertyList("<plist><dict><key>a</key><array/></dict></plist>"));
+    EXPECT_TRUE(isModestXmlPropertyList(repeated("<dict><array></array></dict>", 4'000)));
+}
+
+TEST(XmlPropertyList, WithTooManyContainersIsNot) {
+    EXPECT_TRUE(isModestXmlPropertyList(repeated("<dict></dict>", 10'000)));
+    EXPECT_FALSE(isModestXmlPropertyList(repeated("<dict></dict>", 10'001)));
+    EXPECT_FALSE(isModestXmlPropertyList(repeated("<array></array>", 10'001)));
+}
+
+TEST(XmlPropertyList, NestedTooDeepIsNot) {
+    EXPECT_TRUE(isModestXmlPropertyList(repeated("<dict>", 128)));
+    EXPECT_FALSE(isModestXmlPropertyList(repeated("<dict>", 129)));
+    EXPECT_FALSE(isModestXmlPropertyList(repeated("<array key='a'>", 129)));
+}
+
+TEST(XmlPropertyList, DoesNotCloseAContainerInAComment) {
+    EXPECT_FALSE(isModestXmlPropertyList(repeated("<dict><!-- </dict> -->", 129)));
+    EXPECT_FALSE(isModestXmlPropertyList(repeated("<dict><![CDATA[</dict>]]>", 129)));
+    EXPECT_TRUE(isModestXmlPropertyList("<!--" + repeated("<dict>", 20'000) + "-->"));
+}
+
+TEST(XmlPropertyList, EndsWithAPassageThatDoesNot) {
+    EXPECT_TRUE(isModestXmlPropertyList("<dict><!-- " + repeated("<dict>", 200)));
+}
+
+TEST(XmlPropertyList, HoldsNoNullCharacter) {
+    EXPECT_FALSE(isModestXmlPropertyList(std::string_view("<dict>\0</dict>", 14)));
+}
+
+} // namespace
+} // namespace kelmar

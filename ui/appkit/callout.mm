@@ -1,0 +1,32 @@
+#include "ui/appkit/callout.h"
+
+#include "ui/appkit/colours.h"
+#include "ui/appkit/metrics.hpp"
+
+@implementation KelmarCalloutBox
+
++ (instancetype)box {
+    KelmarCalloutBox* const box = [[[self alloc] initWithFrame:NSZeroRect] autorelease];
+    box->card_ = [KelmarCardView card];
+    box->note_ = [KelmarNoteRow rowWithSymbolSize:kelmar::Metrics::rowSymbol
+                                            style:kelmar::TextStyle::body
+                                             tone:kelmar::TextTone::primary];
+    [box addSubview:box->card_];
+    [box->card_ addSubview:box->note_];
+    return box;
+}
+
+- (void)render:(const kelmar::Callout&)callout {
+    [card_ setTint:kelmar::colourOf(callout.tint)];
+    [note_ showSymbol:callout.symbol tint:callout.tint text:callout.text];
+}
+
+- (CGFloat)layOutForWidth:(CGFloat)width {
+    using namespace kelmar::Metrics;
+    const CGFloat height =
+        kelmar::place(note_, cardPadding, cardPadding, width - 2 * cardPadding) + cardPadding;
+    kelmar::setFrame(card_, NSMakeRect(0, 0, width, height));
+    return height;
+}
+
+@end

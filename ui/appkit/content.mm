@@ -1,0 +1,202 @@
+#include "ui/appkit/content.h"
+
+#include "ui/appkit/busy_row.h"
+#include "ui/appkit/callout.h"
+#include "ui/appkit/data_section.h"
+#include "ui/appkit/details.h"
+#include "ui/appkit/found_section.h"
+#include "ui/appkit/metrics.hpp"
+#include "ui/appkit/paragraph.h"
+#include "ui/appkit/progress_section.h"
+#include "ui/appkit/result_sections.h"
+
+#include <algorithm>
+#include <array>
+#include <set>
+#include <utility>
+#include <variant>
+
+namespace kelmar {
+
+/// The blocks, in the order in which they stand in the column; nil until they are needed. They
+/// belong to the column.
+struct ContentBlocks {
+    KelmarBusyRow* busy = nil;
+    KelmarParagraph* text = nil;
+    KelmarCalloutBox* notice = nil;
+    KelmarFoundSection* found = nil;
+    KelmarDataSection* data = nil;
+    KelmarProgressSection* progress = nil;
+    KelmarSummarySection* summary = nil;
+    KelmarProblemsSection* problems = nil;
+    KelmarDetailsView* details = nil;
+    std::size_t kind = std::variant_npos; ///< of the content that is shown
+    bool unfolded = false;                ///< the record takes what is left of the page
+    std::set<KelmarFlippedView*> used;    ///< by the page that is being rendered
+
+    [[nodiscard]] std::array<KelmarFlippedView*, 9> inOrder() const {
+        return {busy, text, notice, found, data, progress, summary, problems, details};
+    }
+};
+
+namespace {
+
+/// The block to show next: the one that is there, or else what `make` makes.
+template <typename Block, typename Make>
+Block* shown(ContentBlocks& blocks, NSView* column, Block*& block, const Make& make) {
+    if (block == nil) {
+        block = make();
+        [column addSubview:block];
+    }
+    blocks.used.insert(block);
+    return block;
+}
+
+} // namespace
+
+} // namespace kelmar
+
+@interface KelmarContentView ()
+
+- (void)renderScanning:(const kelmar::ScanningContent&)content;
+- (void)renderNothingFound:(const kelmar::NothingFoundContent&)content;
+- (void)renderReady:(const kelmar::ReadyContent&)content;
+- (void)renderWorking:(const kelmar::WorkingContent&)content;
+- (void)renderFinished:(const kelmar::FinishedContent&)content;
+- (void)renderDetails:(const kelmar::Details&)details;
+- (void)layOutColumn;
+
+@end
+
+namespace kelmar {
+
+namespace {
+
+void renderContent(KelmarContentView* view, const ScanningContent& content) {
+    [view renderScanning:content];
+}
+
+void renderContent(KelmarContentView* view, const NothingFoundContent& content) {
+    [view renderNothingFound:content];
+}
+
+void renderContent(KelmarContentView* view, const ReadyContent& content) {
+    [view renderReady:content];
+}
+
+void renderContent(KelmarContentView* view, const WorkingContent& content) {
+    [view renderWorking:content];
+}
+
+void renderContent(KelmarContentView* view, const FinishedContent& content) {
+    [view renderFinished:content];
+}
+
+} // namespace
+
+} // namespace kelmar
+
+@implementation KelmarContentView
+
++ (instancetype)viewWithActions:(const kelmar::WindowActions*)actions frame:(NSRect)frame {
+    KelmarContentView* const view = [[[self alloc] initWithFrame:frame] autorelease];
+    view->actions_ = actions;
+    view->blocks_ = new kelmar::ContentBlocks;
+    view->column_ = [[[KelmarFlippedView alloc] initWithFrame:[view bounds]] autorelease];
+    [view setDrawsBackground:NO];
+    [view setBorderType:NSNoBorder];
+    [view setHasVerticalScroller:YES];
+    [view setHasHorizontalScroller:NO];
+    [view setAutohidesScrollers:YES];
+    [view setDocumentView:view->column_];
+    return view;
+}
+
+- (void)dealloc {
+    delete blocks_;
+    [super dealloc];
+}
+
+- (void)render:(const kelmar::Content&)content {
+    blocks_->used.clear();
+    blocks_->unfolded = false;
+    std::visit([self](const auto& each) { kelmar::renderContent(self, each); }, content);
+    // Not one of those that stay is hidden in between: it would lose the keyboard's focus.
+    for (KelmarFlippedView* block : blocks_->inOrder()) {
+        [block setHidden:blocks_->used.contains(block) ? NO : YES];
+    }
+    [self layOutColumn];
+    if (std::exchange(blocks_->kind, content.index()) != content.index()) {
+        [column_ scrollPoint:NSZeroPoint];
+    }
+}
+
+- (void)renderScanning:(const kelmar::ScanningContent&)content {
+    [kelmar::shown(*blocks_, column_, blocks_->busy, [] { return [KelmarBusyRow row]; })
+        render:content.busy];
+}
+
+- (void)renderNothingFound:(const kelmar::NothingFoundContent&)content {
+    [kelmar::shown(*blocks_, column_, blocks_->text, [] { return [KelmarParagraph paragraph]; })
+        showText:content.text];
+}
+
+- (void)renderReady:(const kelmar::ReadyContent&)content {
+    if (content.notice) {
+        [kelmar::shown(*blocks_, column_, blocks_->notice, [] { return [KelmarCalloutBox box]; })
+            render:*content.notice];
+    }
+    [kelmar::shown(*blocks_, column_, blocks_->found, [] { return [KelmarFoundSection section]; })
+        render:content.found];
+    if (content.data) {
+        const auto make = [actions = actions_] {
+            return [KelmarDataSection sectionWithActions:actions];
+        };
+        [kelmar::shown(*blocks_, column_, blocks_->data, make) render:*content.data];
+    }
+}
+
+- (void)renderWorking:(const kelmar::WorkingContent&)content {
+    [kelmar::shown(*blocks_, column_, blocks_->progress,
+                   [] { return [KelmarProgressSection section]; }) render:content];
+    [self renderDetails:content.details];
+}
+
+- (void)renderFinished:(const kelmar::FinishedContent&)content {
+    [kelmar::shown(*blocks_, column_, blocks_->summary,
+                   [] { return [KelmarSummarySection section]; }) render:content.summary];
+    if (content.problems) {
+        [kelmar::shown(*blocks_, column_, blocks_->problems,
+                       [] { return [KelmarProblemsSection section]; }) render:*content.problems];
+    }
+    [self renderDetails:content.details];
+}
+
+- (void)renderDetails:(const kelmar::Details&)details {
+    const auto make = [actions = actions_] { return [KelmarDetailsView viewWithActions:actions]; };
+    [kelmar::shown(*blocks_, column_, blocks_->details, make) render:details];
+    blocks_->unfolded = details.shown;
+}
+
+/// The blocks that are shown, one below the other. The record of a run, unfolded, takes what is
+/// left of the page; otherwise the column is as high as it needs to be.
+- (void)layOutColumn {
+    using namespace kelmar::Metrics;
+    const NSSize room = [self contentSize];
+    const CGFloat inside = [self frame].size.width - 2 * pageMargin;
+    CGFloat below = 0;
+    for (KelmarFlippedView* block : blocks_->inOrder()) {
+        if (block == nil || [block isHidden]) {
+            continue;
+        }
+        const CGFloat top = below + sectionGap;
+        if (block == blocks_->details) {
+            [blocks_->details setRoom:blocks_->unfolded ? room.height - top - sectionGap : 0];
+        }
+        below = kelmar::place(block, pageMargin, top, inside);
+    }
+    const CGFloat height = std::max(room.height, below + sectionGap);
+    kelmar::setFrame(column_, NSMakeRect(0, 0, room.width, height));
+}
+
+@end

@@ -1,0 +1,26 @@
+#pragma once
+
+#include "ui/appkit/card.h"
+#include "ui/appkit/log_view.h"
+#include "ui/window_actions.hpp"
+
+/// The record of a run under the control that unfolds it.
+@interface KelmarDetailsView : KelmarFlippedView {
+    const kelmar::WindowActions* actions_;
+    NSButton* triangle_;
+    NSButton* label_;
+    KelmarCardView* card_;
+    KelmarLogView* log_;
+    kelmar::Action action_;
+    CGFloat room_;
+}
+
+/// `actions` outlive the view.
++ (instancetype)viewWithActions:(const kelmar::WindowActions*)actions;
+
+- (void)render:(const kelmar::Details&)details;
+
+/// How high the view may be when it is unfolded, in points: what the page has left.
+- (void)setRoom:(CGFloat)room;
+
+@end

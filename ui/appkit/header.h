@@ -1,0 +1,19 @@
+#pragma once
+
+#include "ui/appkit/flipped_view.h"
+#include "ui/appkit/icon.h"
+#include "ui/appkit/text_label.h"
+
+/// The program's icon, the title and the subtitle.
+@interface KelmarHeaderView : KelmarFlippedView {
+    KelmarIconView* icon_;
+    KelmarTextLabel* title_;
+    KelmarTextLabel* subtitle_;
+}
+
++ (instancetype)header;
+
+/// `announced`: said to people who can't see that the page has become another.
+- (void)render:(const kelmar::Header&)header announced:(BOOL)announced;
+
+@end

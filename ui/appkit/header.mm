@@ -1,0 +1,54 @@
+#include "ui/appkit/header.h"
+
+#include "system/text/foundation_text_macos.hpp"
+#include "ui/appkit/metrics.hpp"
+
+#include <algorithm>
+
+@implementation KelmarHeaderView
+
++ (instancetype)header {
+    KelmarHeaderView* const header = [[[self alloc] initWithFrame:NSZeroRect] autorelease];
+    header->icon_ = [KelmarIconView icon];
+    [header->icon_ showApplicationIcon];
+    header->title_ = [KelmarTextLabel labelWithStyle:kelmar::TextStyle::title
+                                                tone:kelmar::TextTone::primary];
+    header->subtitle_ = [KelmarTextLabel labelWithStyle:kelmar::TextStyle::body
+                                                   tone:kelmar::TextTone::secondary];
+    [header addSubview:header->icon_];
+    [header addSubview:header->title_];
+    [header addSubview:header->subtitle_];
+    return header;
+}
+
+- (void)render:(const kelmar::Header&)header announced:(BOOL)announced {
+    [title_ showText:header.title];
+    [subtitle_ showText:header.subtitle];
+    if (announced) {
+        NSDictionary* const announcement = [NSDictionary
+            dictionaryWithObjectsAndKeys:kelmar::foundationText(header.announcement()),
+                                         NSAccessibilityAnnouncementKey,
+                                         [NSNumber numberWithInteger:NSAccessibilityPriorityMedium],
+                                         NSAccessibilityPriorityKey, nil];
+        NSAccessibilityPostNotificationWithUserInfo(
+            NSApp, NSAccessibilityAnnouncementRequestedNotification, announcement);
+    }
+}
+
+- (CGFloat)layOutForWidth:(CGFloat)width {
+    using namespace kelmar::Metrics;
+    const CGFloat text = pageMargin + headerIcon + sectionGap;
+    const CGFloat textWidth = width - text - pageMargin;
+    const CGFloat titleHeight = [title_ heightForWidth:textWidth];
+    const CGFloat texts = titleHeight + textGap * 2 + [subtitle_ heightForWidth:textWidth];
+    // Room for a subtitle of two lines, so that the page below does not move from phase to phase.
+    const CGFloat inside = std::max<CGFloat>(headerIcon + partGap, texts);
+    const CGFloat height = inside + 2 * sectionGap;
+    kelmar::setFrame(icon_,
+                     NSMakeRect(pageMargin, (height - headerIcon) / 2, headerIcon, headerIcon));
+    const CGFloat below = kelmar::place(title_, text, (height - texts) / 2, textWidth);
+    kelmar::place(subtitle_, text, below + textGap * 2, textWidth);
+    return height;
+}
+
+@end

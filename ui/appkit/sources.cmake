@@ -1,0 +1,33 @@
+# The window's sources, for the Mac's own build and for the one against GNUstep.
+set(appkit_sources
+    app_delegate.mm
+    busy_row.mm
+    callout.mm
+    card.mm
+    colours.mm
+    confirmation.mm
+    content.mm
+    data_section.mm
+    details.mm
+    dispatcher.mm
+    flipped_view.mm
+    folder_list.mm
+    footer.mm
+    found_section.mm
+    header.mm
+    icon.mm
+    log_view.mm
+    menu.mm
+    note_row.mm
+    page.mm
+    paragraph.mm
+    progress_section.mm
+    push_button.mm
+    result_sections.mm
+    run_loop_modes.mm
+    run_window.mm
+    section.mm
+    size_label.mm
+    spinner.mm
+    text_label.mm)
+list(TRANSFORM appkit_sources PREPEND ${CMAKE_CURRENT_LIST_DIR}/)

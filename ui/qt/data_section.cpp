@@ -1,0 +1,66 @@
+#include "ui/qt/data_section.hpp"
+
+#include "ui/qt/focus_ring.hpp"
+#include "ui/qt/push_button.hpp"
+#include "ui/qt/size_label.hpp"
+#include "ui/qt/text_label.hpp"
+#include "ui/qt/toggle_switch.hpp"
+
+#include <utility>
+
+namespace kelmar {
+
+DataSectionWidget::DataSectionWidget(WindowActions actions, QWidget* parent)
+    : Section(parent),
+      actions_(std::move(actions)),
+      label_(new TextLabel(TextStyle::body, TextLabel::Tone::primary)),
+      total_(new SizeLabel),
+      switch_(new ToggleSwitch),
+      line_(new TextLabel(TextStyle::callout, TextLabel::Tone::secondary)),
+      folders_(new PushButton(PushButton::Size::regular)),
+      listed_(new QVBoxLayout),
+      lists_(*listed_) {
+    auto* const choice = new QHBoxLayout;
+    choice->setContentsMargins(focusRoom, 0, 0, 0);
+    choice->setSpacing(8);
+    choice->addWidget(label_, 1);
+    choice->addWidget(total_);
+    choice->addWidget(switch_);
+    auto* const inside = new QVBoxLayout;
+    // A control's own room for its focus ring counts as part of the margin.
+    inside->setContentsMargins(12 - focusRoom, 12 - focusRoom, 12 - focusRoom, 12 - focusRoom);
+    inside->setSpacing(4);
+    inside->addLayout(choice);
+    auto* const under = new QHBoxLayout;
+    under->setContentsMargins(focusRoom, 0, 56, 0);
+    under->addWidget(line_);
+    inside->addLayout(under);
+    auto* const button = new QHBoxLayout;
+    button->setContentsMargins(0, 4, 0, 0);
+    button->addWidget(folders_);
+    button->addStretch();
+    inside->addLayout(button);
+    card().rows().addLayout(inside);
+    listed_->setSpacing(0);
+    card().rows().addLayout(listed_);
+
+    label_->nameFor(switch_);
+    connect(switch_, &QAbstractButton::clicked, this,
+            [this](bool on) { actions_.setDeleteAllData(on); });
+    connect(folders_, &QAbstractButton::clicked, this,
+            [this] { actions_.perform(folders_->shown().action); });
+}
+
+void DataSectionWidget::render(const DataSection& section) {
+    renderTitle(section.title);
+    label_->showText(section.label);
+    total_->render(section.total);
+    switch_->setChecked(section.on);
+    switch_->setAccessibleDescription(QString::fromStdString(section.line));
+    line_->showText(section.line);
+    folders_->render(section.folders);
+    lists_.render(section.lists,
+                  [this](std::size_t) { return new FolderListWidget(actions_.setSelected); });
+}
+
+} // namespace kelmar

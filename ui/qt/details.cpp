@@ -1,0 +1,38 @@
+#include "ui/qt/details.hpp"
+
+#include "ui/qt/card.hpp"
+#include "ui/qt/disclosure.hpp"
+#include "ui/qt/log_view.hpp"
+
+namespace kelmar {
+
+DetailsWidget::DetailsWidget(const std::function<void(Action)>& perform, QWidget* parent)
+    : QWidget(parent),
+      toggle_(new Disclosure),
+      frame_(new Card),
+      log_(new LogView) {
+    auto* const column = new QVBoxLayout(this);
+    column->setContentsMargins(0, 0, 0, 0);
+    column->setSpacing(8);
+    auto* const row = new QHBoxLayout;
+    row->setContentsMargins(0, 0, 0, 0);
+    row->addWidget(toggle_);
+    row->addStretch();
+    column->addLayout(row);
+    auto* const card = static_cast<Card*>(frame_);
+    card->rows().setContentsMargins(2, 4, 2, 4);
+    card->rows().addWidget(log_);
+    column->addWidget(frame_, 1);
+    frame_->hide();
+    connect(toggle_, &QAbstractButton::clicked, this,
+            [perform] { perform(Action::toggleDetails); });
+}
+
+void DetailsWidget::render(const Details& details) {
+    toggle_->render(details.toggle, details.shown);
+    log_->setAccessibleName(QString::fromStdString(details.toggle.text));
+    log_->render(details.log);
+    frame_->setVisible(details.shown);
+}
+
+} // namespace kelmar

@@ -1,0 +1,55 @@
+#include "ui/qt/dispatcher.hpp"
+
+#include "system/process/thread_name.hpp"
+
+#include <QCoreApplication>
+#include <QEvent>
+#include <thread>
+#include <utility>
+
+#include <sys/resource.h>
+#include <unistd.h>
+
+namespace kelmar {
+
+void QtDispatcher::toMain(Job job) {
+    if (jobs_.post(std::move(job))) {
+        QCoreApplication::postEvent(this, new QEvent(QEvent::User));
+    }
+}
+
+bool QtDispatcher::event(QEvent* event) {
+    if (event->type() != QEvent::User) {
+        return QObject::event(event);
+    }
+    // Posted events are delivered until there are none, before anything is drawn. A timer comes
+    // once a turn, so that a flood of jobs leaves the window its share.
+    turn_.start(0, this);
+    return true;
+}
+
+void QtDispatcher::timerEvent(QTimerEvent* /*event*/) {
+    if (!jobs_.runTurn()) {
+        turn_.stop();
+    }
+}
+
+void QtDispatcher::userInitiated(Job job) {
+    std::thread([job = std::move(job)] {
+        nameThisThread("user-initiated");
+        job();
+    }).detach();
+}
+
+void QtDispatcher::utility(Job job) {
+    std::thread([job = std::move(job)] {
+        nameThisThread("utility");
+        // setpriority(2): on Linux the nice value is a thread's own, and its children inherit it.
+        constexpr int nicer = 10;
+        const auto self = static_cast<id_t>(::gettid());
+        ::setpriority(PRIO_PROCESS, self, ::getpriority(PRIO_PROCESS, self) + nicer);
+        job();
+    }).detach();
+}
+
+} // namespace kelmar

@@ -1,0 +1,70 @@
+#include "ui/qt/folder_list.hpp"
+
+#include "ui/qt/card.hpp"
+#include "ui/qt/check_box.hpp"
+#include "ui/qt/size_label.hpp"
+#include "ui/qt/text_label.hpp"
+
+#include <QVBoxLayout>
+#include <utility>
+
+namespace kelmar {
+
+FolderRowWidget::FolderRowWidget(const SelectFolder& select, QWidget* parent)
+    : QWidget(parent),
+      check_(new CheckBox),
+      summary_(new TextLabel(TextStyle::callout, TextLabel::Tone::secondary,
+                             TextLabel::Overflow::elideMiddle)),
+      size_(new SizeLabel) {
+    auto* const row = new QHBoxLayout(this);
+    row->setContentsMargins(0, 0, 0, 0);
+    row->setSpacing(8);
+    row->addWidget(check_);
+    row->addWidget(summary_, 1, Qt::AlignVCenter);
+    row->addWidget(size_);
+    connect(check_, &QAbstractButton::clicked, this,
+            [this, select](bool checked) { select(path_, checked); });
+}
+
+void FolderRowWidget::render(const FolderRow& row) {
+    path_ = row.path;
+    const QString name = QString::fromStdString(row.name);
+    if (name != check_->text()) {
+        check_->setText(name);
+    }
+    check_->setChecked(row.checked);
+    check_->setAccessibleDescription(QString::fromStdString(row.summary));
+    summary_->showText(row.summary);
+    size_->render(row.size);
+}
+
+FolderListWidget::FolderListWidget(SelectFolder select, QWidget* parent)
+    : QWidget(parent),
+      select_(std::move(select)),
+      heading_(new TextLabel(TextStyle::callout, TextLabel::Tone::secondary)),
+      others_(new TextLabel(TextStyle::callout, TextLabel::Tone::secondary)),
+      folders_(new QVBoxLayout),
+      rows_(*folders_) {
+    auto* const column = new QVBoxLayout(this);
+    column->setContentsMargins(0, 0, 0, 0);
+    column->setSpacing(0);
+    column->addWidget(new Hairline);
+    auto* const inside = new QVBoxLayout;
+    inside->setContentsMargins(12, 12, 12, 12);
+    inside->setSpacing(8);
+    folders_->setSpacing(4);
+    inside->addWidget(heading_);
+    inside->addLayout(folders_);
+    inside->addWidget(others_);
+    column->addLayout(inside);
+}
+
+void FolderListWidget::render(const FolderList& list) {
+    heading_->showText(list.heading);
+    rows_.render(list.rows, [this](std::size_t) { return new FolderRowWidget(select_); });
+    others_->raise(); // last for screen readers too, which go by the stacking order
+    others_->setVisible(list.otherItems.has_value());
+    others_->showText(list.otherItems.value_or(""));
+}
+
+} // namespace kelmar

@@ -1,0 +1,45 @@
+#include "ui/qt/header.hpp"
+
+#include "ui/qt/accessibility.hpp"
+#include "ui/qt/icon.hpp"
+#include "ui/qt/text_label.hpp"
+
+#include <QVBoxLayout>
+
+namespace kelmar {
+
+HeaderWidget::HeaderWidget(QWidget* parent)
+    : QWidget(parent),
+      title_(new TextLabel(TextStyle::title, TextLabel::Tone::primary)),
+      subtitle_(new TextLabel(TextStyle::body, TextLabel::Tone::secondary)),
+      announcer_(new QWidget(this)) {
+    auto* const row = new QHBoxLayout(this);
+    row->setContentsMargins(24, 16, 24, 16);
+    row->setSpacing(16);
+    auto* const icon = new IconLabel(56);
+    icon->showPicture("kelmar-uninstaller");
+    auto* const texts = new QVBoxLayout;
+    texts->setSpacing(4);
+    texts->addStretch();
+    texts->addWidget(title_);
+    texts->addWidget(subtitle_);
+    texts->addStretch();
+    row->addWidget(icon, 0, Qt::AlignVCenter);
+    row->addLayout(texts, 1);
+    // Room for a subtitle of two lines, so that the page below does not move from phase to phase.
+    setMinimumHeight(32 + 4 + QFontMetrics(title_->font()).height() +
+                     2 * QFontMetrics(subtitle_->font()).lineSpacing());
+    setAccessibleRole(*title_, QAccessible::Heading);
+    setAccessibleRole(*announcer_, QAccessible::Notification);
+    announcer_->setGeometry(0, 0, 1, 1);
+}
+
+void HeaderWidget::render(const Header& header, bool announced) {
+    title_->showText(header.title);
+    subtitle_->showText(header.subtitle);
+    if (announced) {
+        announce(*announcer_, QString::fromStdString(header.announcement()));
+    }
+}
+
+} // namespace kelmar

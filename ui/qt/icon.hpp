@@ -1,0 +1,56 @@
+#pragma once
+
+#include "ui/page.hpp"
+
+#include <QBasicTimer>
+#include <QElapsedTimer>
+#include <QLabel>
+#include <string>
+
+class QPainter;
+
+namespace kelmar {
+
+/// A symbol, a picture or a turning spinner. Says to a screen reader what it is told to say, and
+/// nothing if that is nothing. Its timer runs only while a spinner can be seen.
+class IconLabel : public QLabel {
+public:
+    /// A square of `side` units, with what is shown in its middle.
+    explicit IconLabel(int side, QWidget* parent = nullptr);
+
+    void showSymbol(const std::string& name, Tint tint, int size);
+    void showPicture(const std::string& name);
+    void showSpinner();
+
+    [[nodiscard]] const std::string& shown() const { return name_; }
+
+    [[nodiscard]] bool isTurning() const { return timer_.isActive(); }
+
+protected:
+    void paintEvent(QPaintEvent* event) override;
+    void showEvent(QShowEvent* event) override;
+    void hideEvent(QHideEvent* event) override;
+    void timerEvent(QTimerEvent* event) override;
+
+private:
+    enum class Kind {
+        nothing,
+        symbol,
+        picture,
+        spinner,
+    };
+
+    void become(Kind kind, const std::string& name, Tint tint, int size);
+    void turnWhileSeen();
+    void paintSpinner(QPainter& painter) const;
+
+    int side_;
+    Kind kind_ = Kind::nothing;
+    std::string name_;
+    Tint tint_ = Tint::secondary;
+    int size_ = 0;
+    QBasicTimer timer_;
+    QElapsedTimer turning_;
+};
+
+} // namespace kelmar

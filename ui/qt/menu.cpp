@@ -1,0 +1,99 @@
+#include "ui/qt/menu.hpp"
+
+#include <QApplication>
+#include <QMenu>
+#include <QPlainTextEdit>
+
+namespace kelmar {
+
+namespace {
+
+/// The window's text that has the focus; its selection is what can be copied.
+QPlainTextEdit* focusedText() {
+    return qobject_cast<QPlainTextEdit*>(QApplication::focusWidget());
+}
+
+/// Whether there is anything that answers to the action now.
+bool isAnswered(MenuAction action) {
+    switch (action) {
+    case MenuAction::copy:
+        return focusedText() != nullptr && focusedText()->textCursor().hasSelection();
+    case MenuAction::selectAll:
+        return focusedText() != nullptr;
+    case MenuAction::hideOthers:
+    case MenuAction::showAll:
+        // Other programs' windows are theirs here, and a desktop brings a hidden one back itself.
+        return false;
+    default:
+        return true;
+    }
+}
+
+QKeySequence keys(const MenuItem& item) {
+    if (item.key == 0) {
+        return {};
+    }
+    const QString letter(QChar(QLatin1Char(item.key)).toUpper());
+    return {(item.option ? "Ctrl+Alt+" : "Ctrl+") + letter};
+}
+
+void perform(MenuAction action, const std::function<void(MenuAction)>& other) {
+    if (!isAnswered(action)) {
+        return;
+    }
+    if (action == MenuAction::copy) {
+        focusedText()->copy();
+    } else if (action == MenuAction::selectAll) {
+        focusedText()->selectAll();
+    } else {
+        other(action);
+    }
+}
+
+QAction* add(QMenu& menu, const MenuItem& item, const std::function<void(MenuAction)>& other) {
+    QAction* const action = menu.addAction(QString::fromStdString(item.title));
+    action->setShortcut(keys(item));
+    action->setMenuRole(QAction::NoRole);
+    const MenuAction kind = item.action;
+    QObject::connect(action, &QAction::triggered, &menu, [kind, other] { perform(kind, other); });
+    // Grey while the menu is open and nothing answers. Its key does nothing then, either, but an
+    // action that is grey all the time would not have one.
+    QObject::connect(&menu, &QMenu::aboutToShow, action,
+                     [action, kind] { action->setEnabled(isAnswered(kind)); });
+    QObject::connect(&menu, &QMenu::aboutToHide, action, [action] { action->setEnabled(true); });
+    return action;
+}
+
+/// What the platform adds to the menu of windows: those that are open.
+void addWindow(QMenu& menu, QWidget& window) {
+    menu.addSeparator();
+    QAction* const action = menu.addAction(window.windowTitle());
+    action->setCheckable(true);
+    action->setChecked(true);
+    QObject::connect(action, &QAction::triggered, &window, [action, &window] {
+        action->setChecked(true);
+        window.raise();
+        window.activateWindow();
+    });
+}
+
+} // namespace
+
+void fillMenuBar(QMenuBar& bar, const std::vector<Menu>& menus,
+                 const std::function<void(MenuAction)>& perform) {
+    for (const Menu& described : menus) {
+        QMenu* const menu = bar.addMenu(QString::fromStdString(described.title));
+        for (const std::optional<MenuItem>& item : described.items) {
+            if (item) {
+                add(*menu, *item, perform);
+            } else {
+                menu->addSeparator();
+            }
+        }
+        if (described.listsWindows) {
+            addWindow(*menu, *bar.window());
+        }
+    }
+}
+
+} // namespace kelmar

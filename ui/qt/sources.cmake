@@ -1,0 +1,39 @@
+# The window's sources.
+set(qt_sources
+    about_panel.cpp
+    accessibility.cpp
+    app_delegate.cpp
+    busy_row.cpp
+    button_row.cpp
+    callout.cpp
+    card.cpp
+    check_box.cpp
+    colours.cpp
+    confirmation.cpp
+    content.cpp
+    data_section.cpp
+    details.cpp
+    disclosure.cpp
+    dispatcher.cpp
+    focus_ring.cpp
+    folder_list.cpp
+    fonts.cpp
+    footer.cpp
+    found_section.cpp
+    header.cpp
+    icon.cpp
+    log_view.cpp
+    main_window.cpp
+    menu.cpp
+    note_row.cpp
+    page.cpp
+    progress_section.cpp
+    push_button.cpp
+    result_sections.cpp
+    section.cpp
+    size_label.cpp
+    slim_scroll_bar.cpp
+    symbols.cpp
+    text_label.cpp
+    toggle_switch.cpp)
+list(TRANSFORM qt_sources PREPEND ${CMAKE_CURRENT_LIST_DIR}/)
