@@ -1,9 +1,9 @@
 #include "admin/status_tail.hpp"
 
 #include "system/files/file_descriptor.hpp"
+#include "system/files/reading.hpp"
 #include "system/text/utf8.hpp"
 
-#include <cerrno>
 #include <chrono>
 #include <string_view>
 #include <utility>
@@ -28,18 +28,10 @@ std::string bytesFrom(const std::string& path, std::uint64_t offset) {
         static_cast<std::uint64_t>(status.st_size) <= offset) {
         return {};
     }
-    std::string bytes(static_cast<std::uint64_t>(status.st_size) - offset, '\0');
-    std::size_t length = 0;
-    while (length < bytes.size()) {
-        const ssize_t count = ::pread(file.get(), &bytes[length], bytes.size() - length,
-                                      static_cast<off_t>(offset + length));
-        if (count > 0) {
-            length += static_cast<std::size_t>(count);
-        } else if (count == 0 || errno != EINTR) {
-            break;
-        }
+    std::string bytes;
+    if (::lseek(file.get(), static_cast<off_t>(offset), SEEK_SET) >= 0) {
+        appendToEnd(file.get(), bytes, static_cast<std::uint64_t>(status.st_size) - offset);
     }
-    bytes.resize(length);
     return bytes;
 }
 

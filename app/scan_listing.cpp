@@ -2,12 +2,10 @@
 
 #include "discovery/inventory.hpp"
 #include "discovery/scanner.hpp"
+#include "discovery/size_in_words.hpp"
 #include "system/process/standard_streams.hpp"
-#include "system/text/byte_count.hpp"
 #include "system/text/strings.hpp"
 
-#include <cstdint>
-#include <optional>
 #include <string>
 #include <vector>
 
@@ -16,13 +14,6 @@ namespace kelmar {
 namespace {
 
 const std::string indent = "    ";
-
-std::string sizeText(std::optional<std::int64_t> bytes) {
-    if (!bytes) {
-        return "?";
-    }
-    return *bytes == 0 ? "Empty" : byteCountText(*bytes);
-}
 
 /// Names of data folders are ASCII, so a column is a byte.
 std::string column(std::string name) {
@@ -54,7 +45,8 @@ void print(const Installation& installation, const KelmarPaths& paths) {
 void print(const DataRoot& root, const KelmarPaths& paths) {
     printLine("Data in " + paths.display(root.path) + ":");
     for (const DataFolder& folder : root.folders) {
-        printLine(indent + column(folder.name) + " " + sizeText(Scanner::size(folder.path)));
+        printLine(indent + column(folder.name) + " " +
+                  sizeInWords(Scanner::size(folder.path), "?"));
     }
     if (!root.otherItems.empty()) {
         printLine(indent + "also holds (always kept): " + joined(root.otherItems, ", "));

@@ -16,13 +16,12 @@ namespace kelmar {
 /// One installation of the product, for one scope.
 struct Installation {
     Scope scope = Scope::me;
-    std::optional<std::string> app; ///< path of the app bundle, if it exists
-    std::optional<std::string>
-        appVersion; ///< its short version, if the bundle's version record has one
-    std::optional<std::string> services; ///< path of the services folder, if it exists
-    std::vector<std::string> agents;     ///< the launch agents' property lists that exist
-    std::vector<std::string> receipts; ///< identifiers of the package receipts known to the system
-    bool needsAdministrator = false;   ///< some file belongs to another user (for `me` alone)
+    std::optional<std::string> app;        ///< path of the app bundle, if it exists
+    std::optional<std::string> appVersion; ///< short version, if its Info.plist has one
+    std::optional<std::string> services;   ///< path of the services folder, if it exists
+    std::vector<std::string> agents;       ///< the launch agents' property lists that exist
+    std::vector<std::string> receipts;     ///< identifiers of the package receipts that exist
+    bool needsAdministrator = false;       ///< some file belongs to another user (for `me` alone)
 
     /// The app, the services folder and the agents, those that there are. Receipts are no paths.
     [[nodiscard]] std::vector<std::string> paths() const;
@@ -66,8 +65,8 @@ struct DataRoot {
     Scope scope = Scope::me;
     std::string path;
     std::vector<DataFolder> folders; ///< in the order of `DataFolder::known`
-    std::vector<std::string>
-        otherItems; ///< names of everything else inside, sorted, without ignorable ones
+    /// Names of everything else inside, sorted, without the ignorable ones.
+    std::vector<std::string> otherItems;
 
     friend bool operator==(const DataRoot&, const DataRoot&) = default;
 };
@@ -88,13 +87,10 @@ struct AdministratorReasons {
 struct Inventory {
     std::vector<Installation> installations; ///< at most one a scope, `allUsers` first
     bool appRunning = false;
-    std::vector<std::string>
-        loadedServices; ///< labels loaded in this login session, API before Worker
-    std::vector<std::string>
-        settings; ///< settings, caches, logs and temporary files of this account
-    std::vector<std::string>
-        keychainItems;               ///< service names, the current edition's before the former's
-    std::vector<DataRoot> dataRoots; ///< at most one a scope, `me` first
+    std::vector<std::string> loadedServices; ///< labels loaded in this session, API before Worker
+    std::vector<std::string> settings; ///< settings, caches, logs, temporary files of this account
+    std::vector<std::string> keychainItems; ///< service names, this edition's before the former's
+    std::vector<DataRoot> dataRoots;        ///< at most one a scope, `me` first
 
     /// Nothing of the product is here. A running app does not count: there is nothing to remove.
     [[nodiscard]] bool isEmpty() const;

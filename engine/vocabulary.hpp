@@ -47,8 +47,7 @@ using Event = std::variant<StageStarted, StageFinished, Doing, Log>;
 /// com.kelmar.pkg.app".
 struct Failure {
     std::string path;
-    std::string
-        reason; ///< a short clause without capital letter and full stop: "it is still there"
+    std::string reason; ///< a short lower-case clause without a full stop: "it is still there"
     friend bool operator==(const Failure&, const Failure&) = default;
 };
 

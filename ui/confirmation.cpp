@@ -1,13 +1,12 @@
 #include "ui/sections.hpp"
-#include "ui/size_text.hpp"
 
 namespace kelmar {
 
 Confirmation confirmation(const UninstallerModel::Published& published) {
     const std::optional<std::int64_t> bytes = published.bytes(published.selectedFolders());
     Confirmation alert;
-    alert.title =
-        bytes ? "Delete " + sizeText(bytes) + " of Kelmar data?" : "Delete your Kelmar data?";
+    alert.title = bytes ? "Delete " + SizeText{bytes, {}}.text() + " of Kelmar data?"
+                        : "Delete your Kelmar data?";
     alert.message = "Your cases, imported documents, exports and downloaded AI models will be "
                     "deleted for good. You can't undo this.";
     Button goOn{"Uninstall and Delete Data", Action::uninstall};

@@ -1,6 +1,6 @@
 #include "ui/page.hpp"
 
-#include "ui/size_text.hpp"
+#include "discovery/size_in_words.hpp"
 
 namespace kelmar {
 
@@ -9,7 +9,7 @@ std::string Header::announcement() const {
 }
 
 std::string SizeText::text() const {
-    return sizeText(bytes);
+    return sizeInWords(bytes, "Measuring…");
 }
 
 std::string SizeText::accessibleName() const {

@@ -1,7 +1,6 @@
 #include "system/files/files.hpp"
 #include "system/text/list_text.hpp"
 #include "ui/sections.hpp"
-#include "ui/size_text.hpp"
 
 #include <algorithm>
 #include <optional>
@@ -50,7 +49,7 @@ std::vector<SummaryRow> summary(const UninstallerModel::Published& published,
     rows.push_back(done("Its settings and the permissions you gave it are removed."));
     if (!published.deletedData.empty()) {
         const std::optional<std::int64_t> bytes = published.bytes(published.deletedData);
-        rows.push_back(done(bytes ? "Deleted " + sizeText(bytes) + " of Kelmar data."
+        rows.push_back(done(bytes ? "Deleted " + SizeText{bytes, {}}.text() + " of Kelmar data."
                                   : "Deleted your Kelmar data."));
     }
     for (const DataRoot& root : published.removed.dataRoots) {

@@ -32,6 +32,9 @@ public:
 
     [[nodiscard]] int get() const { return value_; }
 
+    /// Gives the descriptor up to somebody else who closes it.
+    [[nodiscard]] int release() { return std::exchange(value_, -1); }
+
     [[nodiscard]] bool isOpen() const { return value_ >= 0; }
 
 private:

@@ -2,9 +2,11 @@
 
 #include "system/files/file_descriptor.hpp"
 #include "system/files/open_folder.hpp"
+#include "system/files/reading.hpp"
 
 #include <algorithm>
 #include <cerrno>
+#include <utility>
 
 #include <fcntl.h>
 #include <sys/stat.h>
@@ -43,20 +45,9 @@ std::optional<std::string> readFile(const std::string& path, std::size_t limit) 
         static_cast<std::size_t>(status.st_size) > limit) {
         return std::nullopt;
     }
-    std::string bytes(static_cast<std::size_t>(status.st_size), '\0');
-    std::size_t length = 0;
-    while (length < bytes.size()) {
-        const ssize_t count = ::read(file.get(), &bytes[length], bytes.size() - length);
-        if (count > 0) {
-            length += static_cast<std::size_t>(count);
-        } else if (count == 0) {
-            break; // it shrank while it was read
-        } else if (errno != EINTR) {
-            return std::nullopt;
-        }
-    }
-    bytes.resize(length);
-    return bytes;
+    std::string bytes;
+    const bool whole = appendToEnd(file.get(), bytes, static_cast<std::size_t>(status.st_size));
+    return whole ? std::optional(std::move(bytes)) : std::nullopt;
 }
 
 bool removeFile(const std::string& path) {

@@ -1,12 +1,12 @@
 #include "system/files/folder_entries_portable.hpp"
 
+#include "system/files/file_descriptor.hpp"
 #include "system/files/open_folder.hpp"
 
 #include <cerrno>
 
 #include <fcntl.h>
 #include <sys/stat.h>
-#include <unistd.h>
 
 namespace kelmar {
 
@@ -15,10 +15,10 @@ namespace {
 /// closedir(3) closes the descriptor too, and the caller's is to stay open. A duplicate shares its
 /// position, which is at the beginning.
 OpenFolder openFolder(int descriptor) {
-    const int duplicate = ::fcntl(descriptor, F_DUPFD_CLOEXEC, 0);
-    OpenFolder folder(duplicate >= 0 ? ::fdopendir(duplicate) : nullptr);
-    if (folder == nullptr && duplicate >= 0) {
-        ::close(duplicate);
+    FileDescriptor duplicate(::fcntl(descriptor, F_DUPFD_CLOEXEC, 0));
+    OpenFolder folder(duplicate.isOpen() ? ::fdopendir(duplicate.get()) : nullptr);
+    if (folder != nullptr) {
+        static_cast<void>(duplicate.release()); // closedir(3) closes it
     }
     return folder;
 }

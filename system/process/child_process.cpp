@@ -3,6 +3,7 @@
 #include "system/process/spawn_setup.hpp"
 
 #include <csignal>
+#include <utility>
 
 #include <fcntl.h>
 #include <spawn.h>
@@ -68,22 +69,19 @@ std::vector<char*> argumentVector(const std::string& executable,
 
 StartedChild startChild(const std::string& executable, const std::vector<std::string>& arguments) {
     StartedChild child;
-    int ends[2] = {-1, -1};
-    child.error = openPrivatePipe(ends);
-    if (child.error != 0) {
+    PrivatePipe pipe = openPrivatePipe();
+    if (pipe.error != 0) {
+        child.error = pipe.error;
         return child;
     }
-    const SpawnPlan plan(ends[1]);
+    const SpawnPlan plan(pipe.writing.get());
     const std::vector<char*> vector = argumentVector(executable, arguments);
     // Both systems' posix_spawn returns the errno of the exec: a bad program never runs at all.
     child.error = ::posix_spawn(&child.process, executable.c_str(), plan.actions(),
                                 plan.attributes(), vector.data(), environmentForChildren());
-    ::close(ends[1]);
-    if (child.error != 0) {
-        ::close(ends[0]);
-        return {-1, -1, child.error};
+    if (child.error == 0) {
+        child.output = std::move(pipe.reading);
     }
-    child.output = ends[0];
     return child;
 }
 

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "system/files/file_descriptor.hpp"
+
 #include <string>
 #include <vector>
 
@@ -10,9 +12,8 @@ namespace kelmar {
 /// A child just started, or the reason why it was not.
 struct StartedChild {
     pid_t process = -1;
-    int output = -1; ///< read end of the pipe that the child's two output streams share; the caller
-                     ///< closes it
-    int error = 0;   ///< 0 when the child runs, otherwise the errno value of the step that failed
+    FileDescriptor output; ///< read end of the pipe that the child's two output streams share
+    int error = 0; ///< 0 when the child runs, otherwise the errno value of the step that failed
 };
 
 /// Starts `executable` with `arguments` (the program's name before them is added here): null device

@@ -2,16 +2,16 @@
 
 namespace kelmar {
 
-/// Frees the process from what its parent may have left it; called once, first thing in `main`.
+/// Resets inherited descriptors and signal dispositions; called once, first thing in `main`.
 ///
-/// - Standard input, output and error are open: one that came closed is connected to the null
-/// device,
-///   so that no file opened later becomes "standard output" by taking its number.
-/// - SIGPIPE is ignored: a reader that goes away must not stop an uninstall half-way; the write
-/// fails
-///   instead. Children get the default back (see `startChild`).
-/// - SIGCHLD has its default action: ignored, the system would throw exit statuses away
-/// (waitpid(2)).
+/// Opens standard input, output and error on the null device where they came closed: a file opened
+/// later would otherwise take their numbers, and output would go into it.
+///
+/// Ignores SIGPIPE, so that a reader that goes away does not stop an uninstall half-way: the write
+/// fails instead. Children get the default back (see `startChild`).
+///
+/// Resets SIGCHLD to its default: with an inherited SIG_IGN the system would throw exit statuses
+/// away (waitpid(2)).
 void prepareProcess();
 
 } // namespace kelmar

@@ -1,13 +1,20 @@
 #pragma once
 
+#include "system/files/file_descriptor.hpp"
+
 #include <spawn.h>
 
 /// The parts of starting a child in which systems differ.
 namespace kelmar {
 
-/// Opens a pipe whose ends no child inherits; `ends` as pipe(2) fills it. 0, or the errno value of
-/// what failed.
-int openPrivatePipe(int (&ends)[2]);
+/// A pipe whose ends no child inherits, or the errno value of what failed.
+struct PrivatePipe {
+    FileDescriptor reading;
+    FileDescriptor writing;
+    int error = 0;
+};
+
+PrivatePipe openPrivatePipe();
 
 /// Adds to `actions` and `flags` what keeps every descriptor from the child that no earlier action
 /// gave it, whoever opened it and however.

@@ -7,8 +7,12 @@
 
 namespace kelmar {
 
-int openPrivatePipe(int (&ends)[2]) {
-    return ::pipe2(ends, O_CLOEXEC) == 0 ? 0 : errno;
+PrivatePipe openPrivatePipe() {
+    int ends[2] = {-1, -1};
+    if (::pipe2(ends, O_CLOEXEC) != 0) {
+        return {{}, {}, errno};
+    }
+    return {FileDescriptor(ends[0]), FileDescriptor(ends[1]), 0};
 }
 
 void inheritNothingElse(posix_spawn_file_actions_t& actions, short& /*flags*/) {

@@ -8,15 +8,16 @@
 
 namespace kelmar {
 
-int openPrivatePipe(int (&ends)[2]) {
+PrivatePipe openPrivatePipe() {
+    int ends[2] = {-1, -1};
     if (::pipe(ends) != 0) {
-        return errno;
+        return {{}, {}, errno};
     }
     // Between the two calls another thread may start a child. It goes through here as well, where
     // nothing is inherited in any case; these flags are for children that a framework starts.
     ::fcntl(ends[0], F_SETFD, FD_CLOEXEC);
     ::fcntl(ends[1], F_SETFD, FD_CLOEXEC);
-    return 0;
+    return {FileDescriptor(ends[0]), FileDescriptor(ends[1]), 0};
 }
 
 void inheritNothingElse(posix_spawn_file_actions_t& /*actions*/, short& flags) {

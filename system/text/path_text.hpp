@@ -5,10 +5,9 @@
 
 namespace kelmar {
 
-/// The absolute path `path` in its standard form, by its text alone: repeated and trailing slashes
-/// go,
-/// "." goes, ".." takes the component before it along (and stays at the root above it). No link is
-/// followed and nothing is looked up. "/" stays "/".
+/// The standard form of the absolute path `path`, by its text alone: without repeated and trailing
+/// slashes, "." and "..", which takes the component before it along (above the root it stays
+/// there). No link is followed and nothing is looked up. "/" stays "/".
 std::string standardised(std::string_view path);
 
 } // namespace kelmar

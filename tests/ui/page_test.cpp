@@ -217,5 +217,13 @@ TEST(HeaderOfThePage, IsAnnouncedWithOneStopBetweenItsLines) {
     EXPECT_EQ((Header{"Uninstalling Kelmar…", "Now."}).announcement(), "Uninstalling Kelmar… Now.");
 }
 
+TEST(SizeTexts, AreSpokenWithWhatHasTheSize) {
+    EXPECT_EQ((SizeText{4096, "Store"}).text(), "4 KB");
+    EXPECT_EQ((SizeText{std::nullopt, "Store"}).text(), "Measuring…");
+    EXPECT_EQ((SizeText{4096, "Store"}).accessibleName(), "Store, 4 KB");
+    EXPECT_EQ((SizeText{std::nullopt, "Store"}).accessibleName(), "Store, Measuring…");
+    EXPECT_EQ((SizeText{0, "Store"}).accessibleName(), "Store, Empty");
+}
+
 } // namespace
 } // namespace kelmar

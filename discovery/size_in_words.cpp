@@ -1,12 +1,12 @@
-#include "ui/size_text.hpp"
+#include "discovery/size_in_words.hpp"
 
 #include "system/text/byte_count.hpp"
 
 namespace kelmar {
 
-std::string sizeText(std::optional<std::int64_t> bytes) {
+std::string sizeInWords(std::optional<std::int64_t> bytes, const std::string& unknown) {
     if (!bytes) {
-        return "Measuring…";
+        return unknown;
     }
     return *bytes == 0 ? "Empty" : byteCountText(*bytes);
 }
