@@ -11,14 +11,18 @@ namespace kelmar {
 class AdministratorError : public std::runtime_error {
 public:
     enum class Kind {
-        failed,    ///< it could not be run or ended in failure: `what` says why, in the system's or
-                   ///< its words
-        cancelled, ///< the prompt was refused, dismissed, or could not be shown; nothing ran
+        /// It could not be run or ended in failure: `what` says why, in the system's or its words.
+        failed,
+        /// The prompt was refused, dismissed, or could not be shown; nothing ran. `what` has what
+        /// the system said of it beyond that, line by line, and is empty for a plain refusal.
+        cancelled,
     };
 
     static AdministratorError failed(const std::string& why) { return {Kind::failed, why}; }
 
-    static AdministratorError cancelled() { return {Kind::cancelled, "cancelled"}; }
+    static AdministratorError cancelled(const std::string& words = "") {
+        return {Kind::cancelled, words};
+    }
 
     [[nodiscard]] Kind kind() const { return kind_; }
 

@@ -1,11 +1,10 @@
+#include "admin/askpass_linux.hpp"
 #include "admin/password_prompt_runner.hpp"
 #include "system/process/shell.hpp"
 #include "system/text/strings.hpp"
-#include "system/text/uuid.hpp"
 
-#include <array>
+#include <algorithm>
 #include <cerrno>
-#include <cstdlib>
 #include <system_error>
 
 #include <unistd.h>
@@ -16,29 +15,10 @@ namespace {
 
 constexpr const char* sudo = "/usr/bin/sudo";
 
-/// The usual programs that ask for a password in a window, best known first.
-constexpr std::array<const char*, 6> askpassPrograms{
-    "/usr/bin/ssh-askpass",
-    "/usr/bin/ksshaskpass",
-    "/usr/libexec/seahorse/ssh-askpass",
-    "/usr/bin/lxqt-openssh-askpass",
-    "/usr/lib/ssh/x11-ssh-askpass",
-    "/usr/bin/x11-ssh-askpass",
-};
-
-/// sudo(8): -A takes the program from SUDO_ASKPASS. Empty when there is none; sudo then can't ask.
-std::string askpassProgram() {
-    const char* const chosen = std::getenv("SUDO_ASKPASS");
-    if (chosen != nullptr && *chosen != '\0') {
-        return chosen;
-    }
-    for (const char* const program : askpassPrograms) {
-        if (::access(program, X_OK) == 0) {
-            return program;
-        }
-    }
-    return "";
-}
+/// The first line of the command that sudo runs, on both of its streams. Standard output is in
+/// nobody else's hands: what stands there was written by root. On standard error it parts what sudo
+/// said from what the script says.
+constexpr const char* started = "kelmar-uninstaller: root's command has started";
 
 /// sudo(8): the prompt has escapes that begin with a percent sign.
 std::string promptText(const std::string& reason) {
@@ -49,10 +29,33 @@ std::string promptText(const std::string& reason) {
     return text;
 }
 
-/// What is printed first of all by the command that sudo runs. It can't be guessed, so neither sudo
-/// nor the askpass program prints it by accident.
-std::string newMarker() {
-    return "kelmar-uninstaller-started-" + randomUuid();
+/// The command line for env(1). The words of the one that is given to a shell are fixed; everything
+/// else is an argument.
+std::vector<std::string> command(const std::string& askpass, const std::string& reason,
+                                 const std::string& script,
+                                 const std::vector<std::string>& arguments) {
+    std::vector<std::string> all =
+        askpass.empty() ? std::vector<std::string>{} : Askpass::variables(askpass);
+    // -k: a password that was given to somebody else minutes ago is not used, nor is this one kept.
+    all.insert(all.end(),
+               {sudo, "-k", "-A", "-p", promptText(reason), "--", "/bin/bash", "-p", "-c",
+                "echo \"$0\"; echo \"$0\" >&2; exec /bin/bash -p -- \"$@\"", started, script});
+    all.insert(all.end(), arguments.begin(), arguments.end());
+    return all;
+}
+
+bool hasStarted(const std::string& output) {
+    const std::vector<std::string> lines = nonEmptyLines(output);
+    return std::find(lines.begin(), lines.end(), started) != lines.end();
+}
+
+/// What the script said, in its own words.
+std::string complaint(const Shell::SeparateResult& result) {
+    const std::size_t at = result.error.rfind(started);
+    const std::string words =
+        trimmed(at == std::string::npos ? result.error
+                                        : result.error.substr(at + std::string(started).size()));
+    return words.empty() ? "error " + std::to_string(result.status) : words;
 }
 
 } // namespace
@@ -63,33 +66,21 @@ void PasswordPromptRunner::run(const std::string& script, const std::vector<std:
         throw AdministratorError::failed(std::string(sudo) + ": " +
                                          std::generic_category().message(errno));
     }
-    const std::string marker = newMarker();
-    // The words of the command line that is given to a shell are fixed; everything else is an
-    // argument.
-    std::vector<std::string> all{"SUDO_ASKPASS=" + askpassProgram(),
-                                 sudo,
-                                 "-A",
-                                 "-p",
-                                 promptText(reason),
-                                 "--",
-                                 "/usr/bin/env",
-                                 "-i", // nothing of the user's environment decides what root runs
-                                 "/bin/bash",
-                                 "-p",
-                                 "-c",
-                                 "printf '%s\\n' \"$0\"; exec /bin/bash -p \"$@\"",
-                                 marker,
-                                 script};
-    all.insert(all.end(), arguments.begin(), arguments.end());
-    const Shell::Result result = Shell::run("/usr/bin/env", all);
-
-    const std::size_t started = result.output.find(marker);
-    if (started == std::string::npos) {
-        throw AdministratorError::cancelled();
+    const std::string askpass = Askpass::program();
+    const Shell::SeparateResult result =
+        Shell::runSeparately("/usr/bin/env", command(askpass, reason, script, arguments));
+    if (hasStarted(result.output)) {
+        if (result.status != 0) {
+            throw AdministratorError::failed(complaint(result));
+        }
+        return;
     }
-    if (result.status != 0) {
-        throw AdministratorError::failed(trimmed(result.output.substr(started + marker.size())));
+    const Askpass::Said said = Askpass::understood(result.error);
+    const bool couldAsk = ::access(askpass.c_str(), X_OK) == 0;
+    if (said.asked || !couldAsk || said.words.empty()) {
+        throw AdministratorError::cancelled(joined(said.words, "\n"));
     }
+    throw AdministratorError::failed(joined(said.words, " "));
 }
 
 } // namespace kelmar

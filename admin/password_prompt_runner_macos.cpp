@@ -8,18 +8,17 @@
 
 namespace kelmar {
 
-// NSAppleScript belongs to the main thread (Apple's "Thread Safety Summary" names it). The command
-// line waits on its main thread, the window must not: its main thread draws while the engine's
-// waits here. So neither does it; a process that has nothing else to do does, on a main thread of
-// its own.
+// NSAppleScript is for the main thread only (Apple's "Thread Safety Summary"). Neither front end
+// can lend its main thread: the command line's waits in the engine, the window's draws. So a helper
+// process runs the prompt on its own. It works the reason out for itself, too.
 void PasswordPromptRunner::run(const std::string& script, const std::vector<std::string>& arguments,
-                               const std::string& reason) {
+                               const std::string& /*reason*/) {
     const std::optional<std::string> executable = executablePath(::getpid());
-    if (!executable) {
+    const std::optional<std::string> uuid = randomUuid();
+    if (!executable || !uuid) {
         throw AdministratorError::failed("could not prepare the password prompt");
     }
-    const PromptProcess::Request request{"kelmar-uninstaller-" + randomUuid() + " ", script, reason,
-                                         arguments};
+    const PromptProcess::Request request{"kelmar-uninstaller-" + *uuid + " ", script, arguments};
     const Shell::Result result = Shell::run(*executable, PromptProcess::options(request));
     PromptProcess::checkReport(request.marker, result.output);
 }

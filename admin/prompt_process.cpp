@@ -9,7 +9,7 @@ namespace kelmar::PromptProcess {
 namespace {
 
 constexpr std::string_view option = "--ask-administrator";
-constexpr std::size_t fixedCount = 4; // the option, the marker, the script, the reason
+constexpr std::size_t fixedCount = 3; // the option, the marker, the script
 constexpr std::string_view doneWord = "done";
 constexpr std::string_view cancelledWord = "cancelled";
 constexpr std::string_view failedWord = "failed ";
@@ -38,8 +38,7 @@ std::optional<std::string> between(const std::string& marker, const std::string&
 } // namespace
 
 std::vector<std::string> options(const Request& request) {
-    std::vector<std::string> options{std::string(option), request.marker, request.script,
-                                     request.reason};
+    std::vector<std::string> options{std::string(option), request.marker, request.script};
     options.insert(options.end(), request.arguments.begin(), request.arguments.end());
     return options;
 }
@@ -48,8 +47,7 @@ std::optional<Request> request(const std::vector<std::string>& options) {
     if (options.size() < fixedCount || options[0] != option || options[1].empty()) {
         return std::nullopt;
     }
-    return Request{
-        options[1], options[2], options[3], {options.begin() + fixedCount, options.end()}};
+    return Request{options[1], options[2], {options.begin() + fixedCount, options.end()}};
 }
 
 std::string report(const std::string& marker, const std::optional<AdministratorError>& error) {

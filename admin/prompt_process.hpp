@@ -8,14 +8,14 @@
 
 /// Where the system's prompt may be asked for on a process's main thread only, this program starts
 /// itself once more, and that process does nothing else. This is how it is told what to ask, and
-/// how it answers.
+/// how it answers. Anybody can start it, so a request says as little as possible: the reason that
+/// the prompt shows is the process's own, made from arguments that it has checked.
 namespace kelmar::PromptProcess {
 
 /// What the process is to ask for.
 struct Request {
     std::string marker; ///< stands at both ends of the answer; the frameworks print things too
     std::string script;
-    std::string reason;
     std::vector<std::string> arguments; ///< of the script
 
     friend bool operator==(const Request&, const Request&) = default;
@@ -32,9 +32,9 @@ std::string report(const std::string& marker, const std::optional<AdministratorE
 /// whole report it throws `failed`: the process ended before it could make one.
 void checkReport(const std::string& marker, const std::string& output);
 
-/// Does what `options` ask for and answers the process's exit status, when they are a request of
-/// this program to itself on a system that needs it; else absent, and nothing has been done. Called
-/// on the main thread, before anything else.
+/// Does what `options` ask for and answers the process's exit status, when they are a request on a
+/// system that needs it; else absent, and nothing has been done. A request that this program does
+/// not make is answered with a failure. Called on the main thread, before anything else.
 std::optional<int> run(const std::vector<std::string>& options);
 
 } // namespace kelmar::PromptProcess

@@ -1,11 +1,15 @@
 #include "admin/apple_script_error.hpp"
 #include "admin/prompt_process.hpp"
 #include "admin/quoting.hpp"
+#include "admin/script_request.hpp"
+#include "system/files/user_folders.hpp"
+#include "system/process/environment.hpp"
 #include "system/process/processes.hpp"
 #include "system/process/resources.hpp"
 #include "system/process/retained_macos.hpp"
 #include "system/process/thread_name.hpp"
 #include "system/text/foundation_text_macos.hpp"
+#include "system/text/path_text.hpp"
 
 #include <cstdio>
 #include <cstdlib>
@@ -30,13 +34,27 @@ bool isSameFile(const std::string& one, const std::string& other) {
 }
 
 /// Anybody may start this program with any options, and a prompt in its name is believed. Only the
-/// program itself is answered, and only for the script that it ships with.
-bool isTrusted(const Request& request) {
+/// program itself is answered, and only for the script that it ships with. A process can become the
+/// program after it has asked, so the request itself is checked as well: see `reasonForRequest`.
+bool isTrusted(const Request& request, pid_t parent) {
     const std::optional<std::string> mine = executablePath(::getpid());
-    const std::optional<std::string> asking = executablePath(::getppid());
+    const std::optional<std::string> asking = executablePath(parent);
     const std::optional<std::string> script = resourcePath("uninstall-as-admin.sh");
     return mine && asking && script && isSameFile(*mine, *asking) &&
            isSameFile(*script, request.script);
+}
+
+/// What the request is for, in the prompt's words; absent for one that is refused.
+std::optional<std::string> reasonFor(const Request& request, pid_t parent) {
+    const Asker asker{standardised(homeFolder()), standardised(temporaryFolder())};
+    return isTrusted(request, parent) ? reasonForRequest(request.arguments, asker) : std::nullopt;
+}
+
+/// Root's shell may inherit what is left here, and bash(1) runs the file that BASH_ENV names before
+/// the first line of any script. The one variable says whose request it is, as sudo(8) does.
+void leaveOnlyTheAskerInTheEnvironment() {
+    clearEnvironment();
+    ::setenv("SUDO_UID", std::to_string(::getuid()).c_str(), 1);
 }
 
 /// Ends this process when the one that asked has ended: nobody would hear the answer, and nothing
@@ -64,11 +82,10 @@ AdministratorError errorIn(NSDictionary* information) {
                               isText ? std::optional(plainText(message)) : std::nullopt);
 }
 
-std::optional<AdministratorError> ask(const Request& request) {
+std::optional<AdministratorError> ask(const Request& request, const std::string& reason) {
     std::vector<std::string> words{"/bin/bash", request.script};
     words.insert(words.end(), request.arguments.begin(), request.arguments.end());
-    NSString* const source =
-        foundationText(administratorAppleScript(shellCommand(words), request.reason));
+    NSString* const source = foundationText(administratorAppleScript(shellCommand(words), reason));
     const auto script =
         Retained<NSAppleScript>::adopt([[NSAppleScript alloc] initWithSource:source]);
     if (script.get() == nil || ![script.get() compileAndReturnError:NULL]) {
@@ -84,12 +101,21 @@ std::optional<AdministratorError> ask(const Request& request) {
 
 std::optional<int> run(const std::vector<std::string>& options) {
     const std::optional<Request> asked = request(options);
-    if (!asked || !isTrusted(*asked)) {
+    if (!asked) {
         return std::nullopt;
     }
-    std::thread(endWith, ::getppid()).detach();
+    // Read once: a parent that ends in between leaves its number to nobody that is trusted.
+    const pid_t parent = ::getppid();
     @autoreleasepool {
-        const std::string answer = report(asked->marker, ask(*asked));
+        const std::optional<std::string> reason = reasonFor(*asked, parent);
+        std::optional<AdministratorError> error =
+            AdministratorError::failed("could not prepare the password prompt");
+        if (reason) {
+            std::thread(endWith, parent).detach();
+            leaveOnlyTheAskerInTheEnvironment();
+            error = ask(*asked, *reason);
+        }
+        const std::string answer = report(asked->marker, error);
         std::fwrite(answer.data(), 1, answer.size(), stdout);
         std::fflush(stdout);
     }

@@ -11,8 +11,31 @@
 
 namespace kelmar {
 
-StatusFolder::StatusFolder(const std::string& parent)
-    : path_(parent + "/kelmar-uninstaller-" + randomUuid()) {
+namespace {
+
+constexpr std::string_view folderName = "/kelmar-uninstaller-";
+constexpr std::string_view fileName = "/status";
+
+} // namespace
+
+bool StatusFolder::isFileBelow(const std::string& parent, std::string_view path) {
+    const auto take = [&path](std::string_view start) {
+        const bool found = path.starts_with(start);
+        path.remove_prefix(found ? start.size() : 0);
+        return found;
+    };
+    return take(parent) && take(folderName) && path.ends_with(fileName) &&
+           isUuid(path.substr(0, path.size() - fileName.size()));
+}
+
+StatusFolder::StatusFolder(const std::string& parent) {
+    const std::optional<std::string> uuid = randomUuid();
+    if (!uuid) {
+        path_ = parent;
+        error_ = std::error_code(errno, std::generic_category());
+        return;
+    }
+    path_ = parent + std::string(folderName) + *uuid;
     std::filesystem::create_directories(parent, error_);
     if (error_) {
         return;

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <string>
+#include <string_view>
 #include <system_error>
 
 namespace kelmar {
@@ -13,6 +14,9 @@ public:
     StatusFolder(const StatusFolder&) = delete;
     StatusFolder& operator=(const StatusFolder&) = delete;
     ~StatusFolder();
+
+    /// Whether `path` is that of a status file which an object of this class makes below `parent`.
+    static bool isFileBelow(const std::string& parent, std::string_view path);
 
     /// Why the folder could not be made, if it could not. (A missing status file is no error:
     /// nothing is then read from it.)

@@ -4,6 +4,7 @@
 #include "system/files/reading.hpp"
 #include "system/text/utf8.hpp"
 
+#include <algorithm>
 #include <chrono>
 #include <string_view>
 #include <utility>
@@ -18,21 +19,17 @@ namespace {
 
 constexpr std::chrono::milliseconds period{200};
 
-/// The bytes of `path` from `offset` to where the file ends now.
-std::string bytesFrom(const std::string& path, std::uint64_t offset) {
-    const FileDescriptor file(::open(path.c_str(), O_RDONLY | O_CLOEXEC | O_NONBLOCK));
+constexpr std::size_t portion = 65536;
+// The script's lines hold a path and a reason. Whoever owns the file can write anything into it.
+constexpr std::size_t lineLimit = 1 << 20;
+constexpr std::uint64_t sizeLimit = 1 << 30;
 
+std::uint64_t sizeOf(const FileDescriptor& file) {
     struct stat status {};
 
-    if (!file.isOpen() || ::fstat(file.get(), &status) != 0 ||
-        static_cast<std::uint64_t>(status.st_size) <= offset) {
-        return {};
-    }
-    std::string bytes;
-    if (::lseek(file.get(), static_cast<off_t>(offset), SEEK_SET) >= 0) {
-        appendToEnd(file.get(), bytes, static_cast<std::uint64_t>(status.st_size) - offset);
-    }
-    return bytes;
+    return file.isOpen() && ::fstat(file.get(), &status) == 0
+               ? static_cast<std::uint64_t>(status.st_size)
+               : 0;
 }
 
 } // namespace
@@ -56,18 +53,41 @@ void StatusTail::stop() {
 }
 
 void StatusTail::read() {
-    const std::string bytes = bytesFrom(file_, offset_);
-    offset_ += bytes.size();
+    const FileDescriptor file(::open(file_.c_str(), O_RDONLY | O_CLOEXEC | O_NONBLOCK));
+    const std::uint64_t size = sizeOf(file);
+    isSound_ = isSound_ && size <= sizeLimit;
+    if (!isSound_ || size <= offset_ ||
+        ::lseek(file.get(), static_cast<off_t>(offset_), SEEK_SET) < 0) {
+        return;
+    }
+    std::string bytes;
+    while (offset_ < size) {
+        const ssize_t count =
+            readOnce(file.get(), bytes, std::min<std::uint64_t>(portion, size - offset_));
+        if (count <= 0) {
+            break;
+        }
+        offset_ += static_cast<std::uint64_t>(count);
+        takeLines(bytes);
+    }
     // Each read by itself: a character that is cut between two of them becomes replacements on both
     // sides.
-    const std::string text = decodeUtf8(bytes);
-    std::string_view rest = text;
+    pending_.append(decodeUtf8(bytes));
+}
+
+void StatusTail::takeLines(std::string& bytes) {
+    std::string_view rest = bytes;
     for (std::size_t end = rest.find('\n'); end != std::string_view::npos; end = rest.find('\n')) {
-        pending_.append(rest.substr(0, end));
+        pending_.append(decodeUtf8(rest.substr(0, end)));
         rest.remove_prefix(end + 1);
         handOut(std::exchange(pending_, {}));
     }
-    pending_.append(rest);
+    bytes.erase(0, bytes.size() - rest.size());
+    if (bytes.size() + pending_.size() > lineLimit) {
+        isSound_ = false;
+        bytes.clear();
+        pending_.clear();
+    }
 }
 
 void StatusTail::handOut(const std::string& line) {

@@ -33,8 +33,14 @@ public:
     /// Whether a line beginning with "DONE" has been seen; final once `stop` has returned.
     [[nodiscard]] bool sawDone() const { return sawDone_; }
 
+    /// Whether the file was such as the script writes it: no line longer than a mebibyte, no more
+    /// than a gibibyte in all. What comes after is not read. Final once `stop` has returned.
+    [[nodiscard]] bool isSound() const { return isSound_; }
+
 private:
     void read();
+    /// Hands out the lines that `bytes` ends, and leaves what follows them there.
+    void takeLines(std::string& bytes);
     void handOut(const std::string& line);
 
     const std::string file_;
@@ -42,6 +48,7 @@ private:
     std::uint64_t offset_ = 0; ///< bytes read so far
     std::string pending_;      ///< the beginning of a line whose end has not arrived
     std::atomic<bool> sawDone_{false};
+    std::atomic<bool> isSound_{true};
     SerialQueue queue_{"kelmar.uninstaller.status"}; ///< last: it ends before what its jobs use
 };
 

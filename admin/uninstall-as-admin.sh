@@ -1,52 +1,48 @@
 #!/bin/bash
 #
 # Removes what only an administrator may remove of Kelmar. Kelmar Uninstaller runs it once, as root behind the
-# system's password prompt, or as the current user on a test folder. The arguments are its only input:
+# system's password prompt, or as the current user on a test folder. Its input:
 #
 #   --status FILE        append progress to FILE, which exists
 #   --all-users          remove Kelmar's installation for all users of this Mac
 #   --shared-data PATH   delete this one of Kelmar's shared data folders (may be given several times)
 #   --home PATH          remove those of Kelmar's files below this home folder that are not its owner's
 #   --test-root PATH     look for the system's folders below PATH; touch no service, process or receipt
+#   SUDO_UID             the number of the user who asks; without it, that is the owner of FILE
 #
 # Progress is one line each: "DOING path", "OK path", "FAIL path<tab>reason", "LOG text", and "DONE" at the end.
 # Single items that can't be removed are FAIL lines; the exit status is 0 all the same. Status 1: nothing could
 # be begun. Status 2: the arguments are wrong. Both say why in one line on standard error, and remove nothing.
 #
-# How nothing else is deleted: folders above an item may belong to an ordinary user who swaps them for links
-# while this runs. So every deletion goes into the item's folder first, asks the kernel where that is, and
-# then names the item without a path. What is deleted is named by this file alone, never by a file that a
-# user can write, and nothing that belongs to Kelmar is ever executed.
+# How nothing else is deleted: folders above and inside an item may belong to an ordinary user, who swaps them for
+# links while this runs, and a Mac's rm(1) and find(1) follow those. So zsh(1) does the deleting. It unlinks names
+# without a path, in a folder whose device and inode are those that were listed in the folder above it. Where the
+# kernel's sandbox is at hand, it holds zsh to the item as well. What is deleted is named by this file alone, never
+# by a file that a user can write, and nothing that belongs to Kelmar is ever executed.
 
-# Nothing of the caller's environment may decide what runs here: no BASH_ENV, no exported functions, no shell
-# options. A shell started with -p takes none of them; in POSIX mode exec itself can't be such a function.
-case $- in
-*p*) ;;
+# Nothing of the caller's environment may decide what runs here: no exported functions, no shell options. A shell
+# started with -p takes none of them. That it was is said by an argument, which no variable can plant; in POSIX mode
+# exec itself can't be such a function.
+case ${1-} in
+--started-clean) shift ;;
 *)
     POSIXLY_CORRECT=1
-    exec /usr/bin/env -i /bin/bash -p -- "$0" "$@"
+    exec /usr/bin/env -i ${SUDO_UID+"SUDO_UID=$SUDO_UID"} /bin/bash -p -- "$0" --started-clean "$@"
     ;;
 esac
 
-set -u
-set -f # no name is ever a pattern
-PATH=/usr/bin:/bin:/usr/sbin:/sbin
-LC_ALL=C
+set -uf # no name is ever a pattern
+export PATH=/usr/bin:/bin:/usr/sbin:/sbin LC_ALL=C
 IFS=' '
-export PATH LC_ALL
 umask 077
-trap '' XFSZ # a status file that may not grow must not end this half-way
-cd / || exit 1
+trap '' PIPE XFSZ # a status file that takes no more must not end this half-way
 
 readonly agents=(com.kelmar.api com.kelmar.worker)
 readonly receipts=(com.kelmar.pkg.app com.kelmar.pkg.backend)
 readonly data_folders=(Database Store Export CDN CDN_remote Models Staging Logs)
+readonly patience=7200 # seconds for one item: 700,000 entries on a disk that removes a hundred a second
 
-status=''
-all_users=no
-home=''
-test_root=''
-shared_data=()
+asker='' status='' all_users='' home='' test_root='' sandbox='' shared_data=()
 
 die() { # STATUS MESSAGE
     printf 'uninstall-as-admin.sh: %s\n' "$2" >&2
@@ -55,28 +51,16 @@ die() { # STATUS MESSAGE
 
 # --- Arguments ---------------------------------------------------------------------------------------------
 
-# A control character in a path could end a status line and begin one of its own.
-check_path() { # OPTION VALUE
-    case $2 in
-    *[[:cntrl:]]*) die 2 "$1: a control character in its path" ;;
-    /*) ;;
-    *) die 2 "$1: not an absolute path" ;;
-    esac
-}
-
-without_slashes() { # PATH: without those at its end
-    local path=$1
-    while [ "${path%/}" != "$path" ]; do
-        path=${path%/}
-    done
-    printf '%s' "$path"
+once() { # OPTION VALUE, which it had before
+    [ -z "$2" ] || die 2 "$1: given twice"
 }
 
 read_arguments() {
+    local bare
     while [ $# -gt 0 ]; do
         case $1 in
         --all-users)
-            [ "$all_users" = no ] || die 2 "$1: given twice"
+            once "$1" "$all_users"
             all_users=yes
             shift
             continue
@@ -85,212 +69,229 @@ read_arguments() {
         *) die 2 'an argument that it does not know' ;;
         esac
         [ $# -ge 2 ] || die 2 "$1: its path is missing"
-        check_path "$1" "$2"
+        bare=${2%"${2##*[!/]}"} # without slashes at its end
+        case $2 in
+        *[[:cntrl:]]*) die 2 "$1: a control character in its path" ;; # it could end a status line
+        '' | [!/]*) die 2 "$1: not an absolute path" ;;
+        esac
         case $1 in
+        --status) once "$1" "$status" && status=$2 ;;
         --shared-data) shared_data+=("$2") ;;
-        --status)
-            [ -z "$status" ] || die 2 "$1: given twice"
-            status=$2
-            ;;
-        --home)
-            [ -z "$home" ] || die 2 "$1: given twice"
-            home=$(without_slashes "$2")
-            [ -n "$home" ] || die 2 "$1: not a person's home folder"
-            ;;
-        --test-root)
-            [ -z "$test_root" ] || die 2 "$1: given twice"
-            test_root=$(without_slashes "$2")
-            [ -n "$test_root" ] || die 2 "$1: not a folder to test in"
-            ;;
+        --home) once "$1" "$home" && home=$bare ;;
+        --test-root) once "$1" "$test_root" && test_root=$bare ;;
+        esac
+        case $1$bare/ in
+        --home/ | --home*//* | --home*/./* | --home*/../*) die 2 "$1: not a person's home folder" ;;
+        --test-root/) die 2 "$1: not a folder to test in" ;;
         esac
         shift 2
     done
     [ -n "$status" ] || die 2 '--status: missing'
-    [ "$all_users" = yes ] || [ ${#shared_data[@]} -gt 0 ] || [ -n "$home" ] || die 2 'nothing to do'
+    [ -n "$all_users$home" ] || [ ${#shared_data[@]} -gt 0 ] || die 2 'nothing to do'
 }
 
-# --- Looking without following -----------------------------------------------------------------------------
+# --- Who asks, and the status file -------------------------------------------------------------------------
 
-# Kind and permissions, number of names and owner of a path itself, as in "-rw------- 1 501".
+# Kind, number of names and owner of a path itself, as in "- 1 501".
 describe() { # PATH
-    local kind links owner rest
-    read -r kind links owner rest < <(ls -ldn -- "$1" 2>/dev/null)
-    : "${rest:-}" # read apart from the owner, and of no use
-    printf '%s %s %s' "${kind:-none}" "${links:-0}" "${owner:-none}"
+    local kind links owner _
+    read -r kind links owner _ < <(ls -ldn -- "$1" 2>/dev/null)
+    printf '%.1s %s %s' "${kind:-?}" "${links:-0}" "${owner:-none}"
 }
 
-owner_of() { # PATH
-    local description
-    description=$(describe "$1")
-    printf '%s' "${description##* }"
-}
-
-is_there() { # PATH: also when it is a link to nothing
-    [ -e "$1" ] || [ -L "$1" ]
-}
-
-# Where the kernel says this process is. The shell's own pwd only remembers how it was led there, and would
-# believe a link that was swapped away again.
-here() {
-    /bin/pwd -P
-}
-
-# Goes to a folder and succeeds if that is physically where its path says: BASE may be reached through links
-# (/tmp is one on every Mac), what lies below it may not.
-enter() { # BASE FOLDER, which is BASE or begins with BASE/
-    local physical
-    cd -P -- "${1:-/}" 2>/dev/null || return 1
-    physical=$(here) || return 1
-    [ "$physical" != / ] || physical=''
-    physical=$physical${2#"$1"}
-    cd -P -- "$2" 2>/dev/null && [ "$(here)" = "${physical:-/}" ]
-}
-
-# --- The status file ---------------------------------------------------------------------------------------
-
-# Opens the status file for appending, as descriptor 3, and sets `user` to its owner. It lies in a folder of an
-# ordinary user, who may swap it for a link to a file of the system at any moment. So it gets a second name in
-# a new folder of this process's own: ln(1) names what is there without following a link, nobody else can
-# change that name, and what it names is looked at before it is opened. The new folder may be swapped as well
-# before it is entered: it must be where it was made, and as it was made, and only the name given here goes.
-# On a Mac it also inherits its parent's access control list, which may let that user write in it: chmod(1)
-# takes the list away, and nothing may have been put there before. Older Macs' ln(1) knows no -P and follows a
-# link: to a file that must pass the same look.
-open_status() {
-    local folder=${status%/*}/ private=.kelmar-$$-$RANDOM$RANDOM physical description owner
-    case $(describe "${status%/*}") in
-    d*) owner=$(owner_of "${status%/*}") ;;
-    *) die 1 'the status file is not a plain file of the user' ;;
+# Whose rights the status file is written with, and whose home it may be. sudo(8) sets SUDO_UID, whatever the user
+# sets; on a Mac it comes from the program that asked. A file with a second name may be somebody else's.
+find_asker() {
+    local file folder owner
+    file=$(describe "$status")
+    folder=$(describe "${status%/*}/.")
+    asker=${file##* }
+    [ -n "$test_root" ] || asker=${SUDO_UID:-$asker}
+    case ${folder##* } in
+    0 | "$asker") ;;
+    *) file=none ;;
     esac
-    if ! { cd -P -- "$folder" && physical=$(here) && mkdir -m 700 "./$private" && cd -P -- "./$private"; } \
-        2>/dev/null || [ "$(here)" != "$physical/$private" ]; then
-        die 1 'the status file cannot be looked at'
+    # Nothing is done for root, who needs no help, but on a test folder.
+    if [ "$file" != "- 1 $asker" ] || [ "${test_root:-$asker}" = 0 ] ||
+        ! as_asker /bin/bash -p -c ': >>"$1"' bash "$status" 2>/dev/null; then
+        die 1 'the status file is not a plain file of the user'
     fi
-    if ! chmod -N . 2>/dev/null && [ "$(uname)" = Darwin ]; then
-        die 1 'the status file cannot be looked at'
-    fi
-    case $(describe .)$(ls -A .) in
-    drwx------*' '"$(id -u)") ;;
-    *) die 1 'the status file cannot be looked at' ;;
-    esac
-    user=''
-    if [ ! -L "$status" ] && { ln -P -- "$status" ./status || ln -- "$status" ./status; } 2>/dev/null; then
-        description=$(describe ./status)
-        case $description in
-        -*' 2 '"$owner") user=${description##* } ;;
-        -*' 2 '"$(owner_of "${home:-/dev/null}/.")") user=${description##* } ;;
-        esac
-        # Nothing is done for root, who needs no help, but on a test folder.
-        if [ "$user" = 0 ] && [ -z "$test_root" ]; then
-            user=''
-        fi
-        if [ -n "$user" ]; then
-            { exec 3>>./status; } 2>/dev/null || user=''
-        fi
-        rm -f ./status
-    fi
-    cd -P -- "$folder" 2>/dev/null && rmdir "./$private"
-    cd /
-    [ -n "$user" ] || die 1 'the status file is not a plain file of the user'
+    owner=$(describe "$home/.")
+    [ -z "$home" ] || [ "${owner##* }" = "$asker" ] || die 2 '--home: not the home folder of the user who asks'
+}
+
+as_asker() { # COMMAND ...
+    [ "$(id -u)" = "$asker" ] || set -- sudo -n -u "#$asker" -- "$@"
+    "$@"
+}
+
+# Appends lines to the status file, which lies where its user may change everything at any moment: with that user's
+# rights, and each line by itself, so that a disk that is full for a while loses no other.
+write_status() {
+    as_asker /bin/bash -p -c 'while IFS= read -r line; do
+            printf "%s\n" "$line" >>"$1"
+        done' bash "$status" 2>/dev/null
 }
 
 report() { # LINE
-    # A disk that is full loses the line; what was begun is done all the same.
     printf '%s\n' "$1" 2>/dev/null >&3
 }
 
-# The first line that says something, without control characters, whatever a file's name or a tool's message
-# holds: no line of the status file is made by anything but this script.
+# The first line that says something, without control characters: only this script makes lines of the status file.
 one_line() { # TEXT
-    local text=$1
-    while [ "${text#$'\n'}" != "$text" ]; do
-        text=${text#$'\n'}
-    done
-    harmless "${text%%$'\n'*}"
-}
-
-# Whole, since a path without its end is that of something else.
-harmless() { # PATH
-    printf '%s' "${1//[[:cntrl:]]/?}"
+    printf '%s\n' "$1" | sed -n '/./{s/[[:cntrl:]]/?/g;p;q;}'
 }
 
 # --- Removing ----------------------------------------------------------------------------------------------
 
-report_end() { # PLACE PATH MESSAGE: how the removal of PATH, which is PLACE seen from here, ended
-    if is_there "$1"; then
-        report "FAIL $2"$'\t'"${3:-it is still there}"
-    else
-        report "OK $2"
-    fi
+# For zsh: removes one item, or with "foreign" those topmost things in it that are not the asker's. Prints its process
+# number, status lines, and END. ITEM is what lines name; PLACE is the same without links on the way to the item. The
+# way from PLACE's folder down is kept as names (trail) and as "device:inode" of each folder (ids), as it was listed
+# in the one above. rm(1) gets single names only, where it unlocks what is locked (uchg) or says why something stays.
+readonly remover='
+emulate -R zsh
+print "PID $$"
+mode=$1 item=$2 root=${3:h} top=${3:t} asker=$4 reason="" trail=() ids=() s=()
+
+say() { printf "%s %s${3:+\t}%s\n" $1 "${2//[[:cntrl:]]/?}" "${3//[[:cntrl:]]/?}" }
+finish() { (( $# )) && say FAIL $item $1; print END; exit }
+look() { zstat -L -A s -- $1 2>/dev/null }          # at an entry of the current folder
+is_folder() { (( (s[3] & 8#170000) == 8#040000 )) } # what was looked at last
+below() { print -r -- ${(j:/:)trail}${trail:+/}$1 } # an entry of the current folder, seen from root
+note() { reason=${reason:-${1/.\//./$(below)}} }
+go() { # DEPTH: to the folder that far down the trail, if it is the same still
+    builtin cd -q -- $root/${(j:/:)trail[1,$1]} 2>/dev/null &&
+        zstat -A s -- . 2>/dev/null && [[ $s[1]:$s[2] == $ids[$1+1] ]]
+}
+force() { # NAME ...: what could not simply be dropped; the second time without a lock on the folder itself
+    local words
+    repeat 2; do
+        words=$(print -rN -- ./${^@} | xargs -0 rm -df -- 2>&1 | sed -n 1p)
+        [[ -n $words ]] || return
+        chflags nouchg,nouappnd . 2>/dev/null
+    done
+    note $words
+}
+drop() { # NAME: a file, link or empty folder
+    zf_rmdir -- $1 2>/dev/null || zf_rm -f -- $1
+    look $1 && force $1
+}
+drop_files() { # all of the current folder
+    local -a files=(*(DN^/oN))
+    (( $#files )) && zf_rm -f -- $files
+    files=(*(DN^/oN))
+    (( $#files )) && force $files
+}
+walk() { # NAME: a folder in the current one; removes it, or goes through it for what is foreign
+    local name id task=$mode
+    integer depth start=$#trail
+    local -a names=($1) known=($s[1]:$s[2]) depths=($start)
+    mode=whole # of what is removed in it
+    while (( $#names )); do
+        name=$names[-1] id=$known[-1] depth=$depths[-1]
+        shift -p names known depths
+        trail=($trail[1,depth]) ids=($ids[1,depth+1])
+        [[ -n $id ]] || { go $depth && drop $name; continue } # what is in it has been tried
+        trail+=($name) ids+=($id)
+        go $#trail || continue # it was swapped: it stays
+        if [[ ${id%:*} != $device ]]; then
+            note "a disk is mounted inside it"
+        elif [[ $task == whole ]]; then
+            names+=($name) known+=("") depths+=($depth)
+            drop_files
+        elif [[ $s[5] == $asker ]]; then
+            for name in *(DNoN^u$asker); do remove $name; done
+        fi
+        for name in *(DN/oN); do
+            look $name && is_folder && names+=($name) known+=($s[1]:$s[2]) depths+=($#trail)
+        done
+    done
+    trail=($trail[1,start]) ids=($ids[1,start+1])
+    go $start
+}
+remove() { # NAME: an entry of the current folder, with everything in it
+    local place=${item:h}/$(below $1)
+    reason=""
+    say DOING $place
+    if look $1 && is_folder; then walk $1; else drop $1; fi
+    if go $#trail && ! look $1; then say OK $place; else say FAIL $place ${reason:-it is still there}; fi
 }
 
-# Goes to the item's folder, or says why the item can't be removed from there. What is on a disk that somebody
-# mounted inside the item is not Kelmar's, and rm(1) would empty it. A Mac's list of mounts may name a folder by
-# way of the volume that it lies on.
-approach() { # BASE PATH
-    local place data=/System/Volumes/Data
-    if ! enter "$1" "${2%/*}"; then
-        report "FAIL $2"$'\t''it is reached through a link'
-        return 1
-    fi
-    place=$(here)/${2##*/}
-    case $(mount 2>/dev/null) in
-    *" on $place "* | *" on $place/"* | *" on $data$place "* | *" on $data$place/"*)
-        report "FAIL $2"$'\t''a disk is mounted inside it'
-        return 1
-        ;;
-    esac
+zmodload -F zsh/files b:zf_rm b:zf_rmdir && zmodload -F zsh/stat b:zstat || finish "zsh lacks what it takes to remove it"
+mounts=$(mount 2>/dev/null)
+[[ -n $mounts ]] || finish "the mounted disks cannot be listed"
+for place in $3 /System/Volumes/Data$3; do # a Mac may name a folder by way of its volume
+    [[ $mounts != *" on $place "* && $mounts != *" on $place/"* ]] || finish "a disk is mounted inside it"
+done
+words=$(zstat -L -- $item 2>&1 >/dev/null) || case $words in
+*(no such file or directory|not a directory)) finish ;;
+*) finish ${words##*: } ;;
+esac
+builtin cd -q -- $root 2>/dev/null && [[ $(builtin pwd -P) == $root ]] || finish "it is reached through a link"
+zstat -A s -- . && ids=($s[1]:$s[2]) device=$s[1] && look $top || finish
+[[ $s[5] == $asker ]] || mode=whole
+if [[ $mode == whole ]]; then remove $top; elif is_folder; then walk $top; fi
+finish
+'
+
+# What the kernel's sandbox lets zsh unlink: the item, and nothing else (the last rule that fits counts). It is used if
+# it is there and does just that.
+readonly profile='(version 1)(allow default)(deny file-write-unlink)(allow file-write-unlink (subpath (param "ITEM")))'
+
+in_sandbox() { # ITEM COMMAND ...
+    sandbox-exec -D "ITEM=$1" -p "$profile" "${@:2}"
 }
 
-# rm(1) removes a link itself, never what it leads to, and follows none below.
-remove_item() { # BASE PATH
-    local message
-    is_there "$2" || return 0
-    approach "$1" "$2" || return 0
-    report "DOING $2"
-    message=$(rm -rf -- "./${2##*/}" 2>&1)
-    report_end "./${2##*/}" "$2" "$(one_line "$message")"
+try_sandbox() { # on a folder of root's
+    local place=/tmp/.kelmar-$$-$RANDOM$RANDOM
+    [ -x /usr/bin/sandbox-exec ] && mkdir "$place" 2>/dev/null || return
+    place=$(cd -P -- "$place" && pwd -P)
+    in_sandbox "$place/inside" rmdir "$place" 2>/dev/null
+    in_sandbox "$place" rmdir "$place" 2>/dev/null && sandbox=yes
+    rmdir "$place" 2>/dev/null
+}
+
+# Has zsh remove an item, and waits no longer than is patient: what another user does inside it, or a file system that
+# never answers, must not hold root for ever. So the child gets no end of the pipe to write_status.
+remove_item() { # MODE BASE PATH, which begins with BASE; a test root may be reached through links
+    local base deadline=$((SECONDS + patience)) line pid='' place=$3 why='its removal broke off'
+    if [ -n "$2" ]; then
+        base=$(cd -P -- "$2" 2>/dev/null && pwd -P) || return 0
+        place=${base%/}${3#"$2"}
+    fi
+    while [ "$SECONDS" -lt "$deadline" ] && IFS= read -r -t $((deadline - SECONDS)) line; do
+        case $line in
+        END) return ;;
+        PID*) pid=${line#PID } ;;
+        *) report "$line" ;;
+        esac
+    done < <(${sandbox:+in_sandbox "$place"} zsh -f -c "$remover" zsh "$1" "$3" "$place" "$asker" 2>/dev/null 3>&-)
+    [ "$SECONDS" -lt "$deadline" ] || why='its removal takes too long'
+    [ -z "$pid" ] || kill -KILL "$pid" 2>/dev/null
+    report "FAIL $3"$'\t'"$why"
 }
 
 # Only a known folder directly in the shared data root; anything else is not Kelmar's.
 remove_shared_data() { # PATH
     local name
     for name in "${data_folders[@]}"; do
-        if [ "$1" = "$test_root/Users/Shared/@Kelmar/$name" ]; then
-            remove_item "$test_root" "$1"
-            return
-        fi
+        [ "$1" != "$test_root/Users/Shared/@Kelmar/$name" ] || { remove_item whole "$test_root" "$1"; return; }
     done
     report "FAIL $1"$'\t''it is not one of the shared Kelmar data folders'
 }
 
-# Removes the topmost things in an item that belong to somebody else than the user; they are named first, so
-# that each can be reported. find(1) with -execdir runs rm in the folder where find itself stands: no path is
-# looked up a second time, and find follows no link.
-remove_foreign() { # PATH
-    local folder=${1%/*} item=./${1##*/} found=() message='' place
-    is_there "$1" || return 0
-    approach "$home" "$1" || return 0
-    while IFS= read -r -d '' place; do
-        found+=("$place")
-        report "DOING $folder/$(harmless "${place#./}")"
-    done < <(find "$item" ! -user "$user" -prune -print0 2>/dev/null)
-    [ ${#found[@]} -gt 0 ] || return 0
-    message=$(find "$item" ! -user "$user" -prune -execdir rm -rf -- '{}' ';' 2>&1)
-    [ ${#found[@]} -eq 1 ] || message='' # whose it is can't be told
-    for place in ${found[@]+"${found[@]}"}; do
-        report_end "$place" "$folder/$(harmless "${place#./}")" "$(one_line "$message")"
-    done
-}
-
 # --- Services, processes, receipts -------------------------------------------------------------------------
 
-# Whoever is logged in may have the agents loaded.
+# Whoever is logged in may have the agents loaded; those from a person's own folder are that person's.
 stop_agents() {
     local label message user_id
     while read -r user_id; do
         for label in "${agents[@]}"; do
-            /bin/launchctl print "gui/$user_id/$label" </dev/null >/dev/null 2>&1 || continue
+            message=$(/bin/launchctl print "gui/$user_id/$label" </dev/null 2>/dev/null) || continue
+            case $message in
+            *"path = /Library/LaunchAgents/$label.plist"*) ;;
+            *'path = /'*) continue ;;
+            esac
             if message=$(/bin/launchctl bootout "gui/$user_id/$label" </dev/null 2>&1); then
                 report "LOG Stopped $label (user $user_id)."
             else
@@ -300,52 +301,50 @@ stop_agents() {
     done < <(ps -axo uid= | tr -d ' ' | sort -u -n)
 }
 
-# The path of what a process runs. Where there is /proc, the kernel's own link tells; else ps(1) does.
-program_of() { # PID
-    readlink "/proc/$1/exe" 2>/dev/null || ps -ww -o comm= -p "$1" 2>/dev/null
-}
-
-# The processes that run from a folder, whoever owns them. A line of the list could be forged, by a program whose
-# path holds a line end: what matches is asked for again by its number.
-processes_under() { # FOLDER ...
-    local folder pid program
-    while read -r pid program; do
-        [ ! -e /proc/self/exe ] || program=$(readlink "/proc/$pid/exe" 2>/dev/null)
-        for folder in "$@"; do
-            case $program in
-            "$folder"/*) ;;
-            *) continue ;;
-            esac
-            case $(program_of "$pid") in
-            "$folder"/*) printf '%s\n' "$pid" ;;
-            esac
-        done
-    done < <(ps -axww -o pid= -o comm=)
-}
-
-# Sends a signal to the processes that run from the folders now: a number that was Kelmar's a moment ago may
-# belong to another program by now.
-signal_processes() { # SIGNAL FOLDER ...: sets `signalled` to how many there were
-    local name=$1 pid
+# The numbers of the processes that run from Kelmar's folders below ROOT: what a process runs is the first file that
+# is mapped in it, whatever it calls itself. lsof(8) makes line ends in a path visible.
+processes_under() { # ROOT [OPTION OF lsof ...]
+    local line pid='' root=$1
     shift
-    signalled=0
-    while read -r pid; do
-        kill "-$name" "$pid" 2>/dev/null
-        signalled=$((signalled + 1))
-    done < <(processes_under "$@")
+    while IFS= read -r line; do
+        case $line in
+        p*) pid=${line#p} ;;
+        n"$root"/Applications/Kelmar.app/* | n"$root"/Library/Kelmar/*)
+            printf '%s' "${pid:+$pid }"
+            pid=''
+            ;;
+        n*) pid='' ;;
+        esac
+    done < <(lsof -nPw "$@" -d txt -F pn 2>/dev/null)
 }
 
-stop_processes() { # FOLDER ...
-    local count deadline signalled
-    signal_processes TERM "$@"
-    count=$signalled
-    [ "$count" -gt 0 ] || return 0
-    deadline=$((SECONDS + 10))
-    while [ "$SECONDS" -lt "$deadline" ] && [ -n "$(processes_under "$@")" ]; do
-        sleep 0.1
+is_ancestor() { # PID: whether it, or a process that it started, started this script
+    local pid=$$
+    while [ "${pid:-0}" -gt 1 ]; do
+        [ "$pid" != "$1" ] || return 0
+        pid=$(lsof -nPw -a -p "$pid" -d cwd -F R 2>/dev/null | sed -n 's/^R//p')
     done
-    signal_processes KILL "$@"
-    report "LOG Stopped $count process(es) of Kelmar for all users."
+    return 1
+}
+
+# Asks these processes to end, and after ten seconds makes them.
+stop_processes() { # ROOT
+    local count=0 deadline=$((SECONDS + 10)) pid signal spared
+    for signal in TERM KILL; do
+        spared=''
+        for pid in $(processes_under "$1"); do
+            if is_ancestor "$pid"; then
+                spared="$spared$pid "
+            elif [ -n "$(processes_under "$1" -a -p "$pid")" ]; then # the number may be another program's by now
+                kill "-$signal" "$pid" 2>/dev/null && [ "$signal" = TERM ] && count=$((count + 1))
+            fi
+        done
+        while [ "$SECONDS" -lt "$deadline" ] && [ "$(processes_under "$1")" != "$spared" ]; do
+            sleep 0.1
+        done
+    done
+    [ -z "$spared" ] || report "LOG Left process ${spared% } running: it started Kelmar Uninstaller."
+    [ "$count" -eq 0 ] || report "LOG Stopped $count process(es) of Kelmar ${1:+in }${1:-for all users}."
 }
 
 forget_receipts() {
@@ -362,39 +361,36 @@ forget_receipts() {
 
 # --- The work ----------------------------------------------------------------------------------------------
 
-items_below() { # FOLDER: sets `items` to Kelmar's items there
-    local label
-    items=("$1/Applications/Kelmar.app" "$1/Library/Kelmar")
-    for label in "${agents[@]}"; do
-        items+=("$1/Library/LaunchAgents/$label.plist")
+remove_installation() { # MODE ROOT
+    local base=$2 item
+    if [ -z "$test_root" ]; then
+        base='' # no link may lead there
+        stop_processes "$2"
+    fi
+    for item in Applications/Kelmar.app Library/Kelmar "Library/LaunchAgents/${agents[0]}.plist" \
+        "Library/LaunchAgents/${agents[1]}.plist"; do
+        remove_item "$1" "$base" "$2/$item"
     done
 }
 
 main() {
-    local item items
+    local item
+    cd / || die 1 'the root folder cannot be entered'
     read_arguments "$@"
-    open_status
-    if [ "$all_users" = yes ]; then
-        items_below "$test_root"
-        if [ -z "$test_root" ]; then
-            stop_agents
-            stop_processes "${items[0]}" "${items[1]}"
+    find_asker
+    {
+        try_sandbox
+        if [ -n "$all_users" ]; then
+            [ -n "$test_root" ] || stop_agents
+            remove_installation whole "$test_root"
+            [ -n "$test_root" ] || forget_receipts
         fi
-        for item in ${items[@]+"${items[@]}"}; do
-            remove_item "$test_root" "$item"
+        for item in ${shared_data[@]+"${shared_data[@]}"}; do
+            remove_shared_data "$item"
         done
-        [ -n "$test_root" ] || forget_receipts
-    fi
-    for item in ${shared_data[@]+"${shared_data[@]}"}; do
-        remove_shared_data "$item"
-    done
-    if [ -n "$home" ]; then
-        items_below "$home"
-        for item in ${items[@]+"${items[@]}"}; do
-            remove_foreign "$item"
-        done
-    fi
-    report DONE
+        [ -z "$home" ] || remove_installation foreign "$home"
+        report DONE
+    } 3>&1 >/dev/null | write_status
 }
 
 # The last line is read before any work begins: a file that is overwritten meanwhile changes nothing.

@@ -1,10 +1,12 @@
 #include "admin/administrator_runner.hpp"
+#include "admin/script_request.hpp"
 #include "admin/status_folder.hpp"
 #include "admin/status_line.hpp"
 #include "admin/status_tail.hpp"
 #include "engine/uninstaller.hpp"
 #include "system/process/contract.hpp"
 #include "system/process/resources.hpp"
+#include "system/text/strings.hpp"
 
 #include <exception>
 
@@ -32,15 +34,8 @@ std::optional<std::vector<std::string>> Uninstaller::administratorArguments() co
 }
 
 std::string Uninstaller::administratorReason() const {
-    const std::string start = "Kelmar Uninstaller needs an administrator's password to ";
     const AdministratorReasons reasons = inventory.administratorReasons(selectedData);
-    if (reasons.allUsers) {
-        return start + "remove Kelmar, which is installed for all users of this Mac.";
-    }
-    if (reasons.ownFiles) {
-        return start + "remove files of Kelmar that belong to the system.";
-    }
-    return start + "delete the Kelmar data shared by all users of this Mac.";
+    return kelmar::administratorReason(reasons.allUsers, reasons.ownFiles);
 }
 
 std::vector<DataFolder> Uninstaller::mySelectedData() const {
@@ -83,11 +78,16 @@ Uninstaller::runAsAdministrator(const std::vector<std::string>& arguments) {
     tail.stop();
 
     if (outcome == AdministratorOutcome::cancelled) {
+        for (const std::string& line : nonEmptyLines(trouble)) {
+            log(line);
+        }
         log("No administrator's password was given; nothing was removed.");
     } else if (outcome == AdministratorOutcome::failed) {
         failures.push_back({"Administrator step", trouble});
     } else if (!tail.sawDone()) {
         failures.push_back({"Administrator step", "it stopped before it finished"});
+    } else if (!tail.isSound()) {
+        failures.push_back({"Administrator step", "not everything that it said could be read"});
     }
     return outcome;
 }

@@ -2,7 +2,6 @@
 #include "engine/uninstaller.hpp"
 #include "system/files/files.hpp"
 #include "system/mac_tools/launchctl.hpp"
-#include "system/process/processes.hpp"
 #include "system/process/processes_under.hpp"
 #include "system/process/running_applications.hpp"
 #include "system/text/strings.hpp"
@@ -30,10 +29,18 @@ bool hasGone(pid_t process) {
     return ::kill(process, 0) != 0 && errno != EPERM;
 }
 
-void signalAll(const std::vector<pid_t>& processes, int signal) {
-    for (const pid_t process : processes) {
-        ::kill(process, signal);
+/// To those that have not ended: what answers to their numbers now is another process's.
+void signalAll(const std::vector<HeldProcess>& processes, int signal) {
+    for (const HeldProcess& process : processes) {
+        static_cast<void>(process.signal(signal)); // whether it helped is seen next
     }
+}
+
+std::vector<pid_t> numbersOf(const std::vector<HeldProcess>& processes) {
+    std::vector<pid_t> numbers;
+    std::transform(processes.begin(), processes.end(), std::back_inserter(numbers),
+                   [](const HeldProcess& process) { return process.number(); });
+    return numbers;
 }
 
 } // namespace
@@ -62,12 +69,13 @@ void Uninstaller::quitKelmar() {
     if (running.empty()) {
         return;
     }
-    std::vector<pid_t> all;
+    std::vector<HeldProcess> held;
     std::vector<std::string> numbers;
     for (const RunningApplication& application : running) {
-        all.push_back(application.process);
-        numbers.push_back(std::to_string(application.process));
+        held.push_back(application.process);
+        numbers.push_back(std::to_string(application.process.number()));
     }
+    const std::vector<pid_t> all = numbersOf(held);
     doing("Closing Kelmar");
     const auto accepted =
         std::count_if(running.begin(), running.end(),
@@ -76,7 +84,7 @@ void Uninstaller::quitKelmar() {
         log("Closed Kelmar.");
         return;
     }
-    signalAll(all, SIGTERM);
+    signalAll(held, SIGTERM);
     if (waitForExit(all, terminateWait)) {
         log("Closed Kelmar (it did not answer the quit request).");
         return;
@@ -88,7 +96,7 @@ void Uninstaller::quitKelmar() {
         log("Forced Kelmar to close.");
         return;
     }
-    log("Kelmar is still running (process " + joined(numbers, ", ") + ")");
+    log("Kelmar is still running (process " + joined(numbers, ", ") + ").");
 }
 
 void Uninstaller::stopServices() {
@@ -118,17 +126,15 @@ void Uninstaller::stopProcesses(const std::vector<std::string>& folders) {
     if (folders.empty()) {
         return;
     }
-    std::vector<pid_t> mine;
-    const std::vector<pid_t> all = processes(folders);
-    std::copy_if(all.begin(), all.end(), std::back_inserter(mine),
-                 [](pid_t process) { return processOwner(process) == ::getuid(); });
-    if (mine.empty()) {
+    const std::vector<HeldProcess> held = ownProcessesUnder(folders);
+    if (held.empty()) {
         return;
     }
+    const std::vector<pid_t> mine = numbersOf(held);
     doing("Stopping Kelmar's background processes");
-    signalAll(mine, SIGTERM);
+    signalAll(held, SIGTERM);
     if (!waitForExit(mine, terminateWait)) {
-        signalAll(mine, SIGKILL);
+        signalAll(held, SIGKILL);
     }
     waitForExit(mine, killWait);
     std::vector<std::string> shown;

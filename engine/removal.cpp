@@ -9,6 +9,7 @@
 #include "system/text/strings.hpp"
 
 #include <algorithm>
+#include <system_error>
 
 namespace kelmar {
 
@@ -17,8 +18,10 @@ void Uninstaller::remove(const std::string& path) {
         return;
     }
     doing("Removing " + paths.display(path));
+    // A reason is one line, and rm(1) may write one for every file.
+    constexpr std::size_t enough = 65536;
     const std::vector<std::string> lines =
-        nonEmptyLines(Shell::run("/bin/rm", {"-rf", "--", path}).output);
+        nonEmptyLines(Shell::run("/bin/rm", {"-rf", "--", path}, enough).output);
     if (!exists(path)) {
         log("Removed " + paths.display(path));
         return;
@@ -63,21 +66,40 @@ void Uninstaller::removeSettings() {
 }
 
 void Uninstaller::removeIfEmpty(const std::string& path) {
-    const std::optional<std::vector<std::string>> names = sortedNames(path);
-    if (!names) {
-        return;
+    // Something may be saved in the folder after each look at it: rmdir(2) then fails, where rm(1)
+    // would take it along, and the next look says what it is.
+    constexpr int looks = 3;
+    std::error_code error;
+    for (int look = 0; look < looks; ++look) {
+        const std::optional<std::vector<std::string>> names = sortedNames(path);
+        if (!names) {
+            return;
+        }
+        std::vector<std::string> kept;
+        std::copy_if(names->begin(), names->end(), std::back_inserter(kept),
+                     [](const std::string& name) { return !KelmarPaths::isIgnorable(name); });
+        if (!kept.empty()) {
+            log(paths.display(path) + ": it still holds " + joined(kept, ", ") + ".");
+            return;
+        }
+        for (const std::string& name : *names) {
+            removeFile(path + "/" + name);
+        }
+        if (isLink(path)) {
+            remove(path); // the link alone: the folder that it leads to is not Kelmar's
+            return;
+        }
+        if (look == 0) {
+            doing("Removing " + paths.display(path));
+        }
+        error = removeFolder(path);
+        if (!error) {
+            log("Removed " + paths.display(path));
+            return;
+        }
     }
-    std::vector<std::string> kept;
-    std::copy_if(names->begin(), names->end(), std::back_inserter(kept),
-                 [](const std::string& name) { return !KelmarPaths::isIgnorable(name); });
-    if (!kept.empty()) {
-        log(paths.display(path) + ": it still holds " + joined(kept, ", ") + ".");
-        return;
-    }
-    for (const std::string& name : *names) {
-        removeFile(path + "/" + name);
-    }
-    remove(path);
+    failures.push_back({path, error.message()});
+    log("Could not remove " + paths.display(path) + ": " + error.message());
 }
 
 void Uninstaller::resetPermissions() {

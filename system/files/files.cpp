@@ -50,8 +50,19 @@ std::optional<std::string> readFile(const std::string& path, std::size_t limit) 
     return whole ? std::optional(std::move(bytes)) : std::nullopt;
 }
 
+bool isLink(const std::string& path) {
+    struct stat status {};
+
+    return ::lstat(path.c_str(), &status) == 0 && S_ISLNK(status.st_mode);
+}
+
 bool removeFile(const std::string& path) {
     return ::unlink(path.c_str()) == 0;
+}
+
+std::error_code removeFolder(const std::string& path) {
+    return ::rmdir(path.c_str()) == 0 ? std::error_code()
+                                      : std::error_code(errno, std::generic_category());
 }
 
 } // namespace kelmar

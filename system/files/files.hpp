@@ -3,6 +3,7 @@
 #include <cstddef>
 #include <optional>
 #include <string>
+#include <system_error>
 #include <vector>
 
 /// What the program asks of the file system, where std::filesystem follows links or throws.
@@ -22,7 +23,13 @@ std::optional<std::vector<std::string>> sortedNames(const std::string& path);
 /// file's place is no regular file.
 std::optional<std::string> readFile(const std::string& path, std::size_t limit);
 
+/// Whether there is a symlink at `path`.
+bool isLink(const std::string& path);
+
 /// Deletes the file or link at `path`, not a folder. Whether it is gone now by this call.
 bool removeFile(const std::string& path);
+
+/// Deletes the folder at `path` if it is empty (rmdir(2)); what failed, if anything.
+std::error_code removeFolder(const std::string& path);
 
 } // namespace kelmar

@@ -2,36 +2,43 @@
 
 #include "system/process/spawn_setup.hpp"
 
+#include <cerrno>
 #include <csignal>
 #include <utility>
 
 #include <fcntl.h>
 #include <spawn.h>
+#include <sys/wait.h>
 #include <unistd.h>
 
 namespace kelmar {
 
 namespace {
 
-/// What the child finds open, and how it starts.
+/// What the child finds open, and how it starts. Each step is skipped once one has failed.
 class SpawnPlan {
 public:
-    /// The pipe's end cannot be 0 (its read end has a lower number), so the null device comes last
-    /// without covering it, even when this process itself was started with descriptors closed.
-    explicit SpawnPlan(int output) {
-        ::posix_spawn_file_actions_init(&actions_);
-        ::posix_spawnattr_init(&attributes_);
-        ::posix_spawn_file_actions_adddup2(&actions_, output, STDOUT_FILENO);
-        ::posix_spawn_file_actions_adddup2(&actions_, output, STDERR_FILENO);
-        ::posix_spawn_file_actions_addopen(&actions_, STDIN_FILENO, "/dev/null", O_RDONLY, 0);
+    /// The order matters where this process itself was started with descriptors closed: an end that
+    /// is written to is never 0, since a read end has a lower number, and `errors` is none of the
+    /// first three.
+    SpawnPlan(int output, int errors) {
+        take(::posix_spawn_file_actions_init(&actions_));
+        take(::posix_spawnattr_init(&attributes_));
+        if (error_ != 0) {
+            return;
+        }
+        take(::posix_spawn_file_actions_adddup2(&actions_, output, STDOUT_FILENO));
+        take(::posix_spawn_file_actions_adddup2(&actions_, errors, STDERR_FILENO));
+        take(::posix_spawn_file_actions_addopen(&actions_, STDIN_FILENO, "/dev/null", O_RDONLY, 0));
         short flags = POSIX_SPAWN_SETSIGMASK | POSIX_SPAWN_SETSIGDEF;
-        inheritNothingElse(actions_, flags);
+        take(inheritNothingElse(actions_, flags));
         sigset_t signals;
         sigemptyset(&signals);
-        ::posix_spawnattr_setsigmask(&attributes_, &signals);
-        sigfillset(&signals);
-        ::posix_spawnattr_setsigdefault(&attributes_, &signals);
-        ::posix_spawnattr_setflags(&attributes_, flags);
+        take(::posix_spawnattr_setsigmask(&attributes_, &signals));
+        sigaddset(&signals, SIGPIPE); // ignored by this process, see `prepareProcess`
+        sigaddset(&signals, SIGCHLD); // a shell that finds it ignored can't wait for its children
+        take(::posix_spawnattr_setsigdefault(&attributes_, &signals));
+        take(::posix_spawnattr_setflags(&attributes_, flags));
     }
 
     SpawnPlan(const SpawnPlan&) = delete;
@@ -42,13 +49,19 @@ public:
         ::posix_spawn_file_actions_destroy(&actions_);
     }
 
+    /// The errno value of the first step that failed, or 0.
+    [[nodiscard]] int error() const { return error_; }
+
     [[nodiscard]] const posix_spawn_file_actions_t* actions() const { return &actions_; }
 
     [[nodiscard]] const posix_spawnattr_t* attributes() const { return &attributes_; }
 
 private:
+    void take(int result) { error_ = error_ == 0 ? result : error_; }
+
     posix_spawn_file_actions_t actions_{};
     posix_spawnattr_t attributes_{};
+    int error_ = 0;
 };
 
 std::vector<char*> argumentVector(const std::string& executable,
@@ -67,22 +80,44 @@ std::vector<char*> argumentVector(const std::string& executable,
 
 } // namespace
 
-StartedChild startChild(const std::string& executable, const std::vector<std::string>& arguments) {
+StartedChild startChild(const std::string& executable, const std::vector<std::string>& arguments,
+                        ChildStreams streams) {
     StartedChild child;
-    PrivatePipe pipe = openPrivatePipe();
-    if (pipe.error != 0) {
-        child.error = pipe.error;
+    PrivatePipe output = openPrivatePipe();
+    PrivatePipe errors =
+        streams == ChildStreams::apart && output.error == 0 ? openPrivatePipe() : PrivatePipe();
+    child.error = output.error != 0 ? output.error : errors.error;
+    if (child.error != 0) {
         return child;
     }
-    const SpawnPlan plan(pipe.writing.get());
+    const SpawnPlan plan(output.writing.get(), streams == ChildStreams::apart
+                                                   ? errors.writing.get()
+                                                   : output.writing.get());
+    child.error = plan.error();
+    if (child.error != 0) {
+        return child;
+    }
     const std::vector<char*> vector = argumentVector(executable, arguments);
     // Both systems' posix_spawn returns the errno of the exec: a bad program never runs at all.
     child.error = ::posix_spawn(&child.process, executable.c_str(), plan.actions(),
                                 plan.attributes(), vector.data(), environmentForChildren());
     if (child.error == 0) {
-        child.output = std::move(pipe.reading);
+        child.output = std::move(output.reading);
+        child.errors = std::move(errors.reading);
     }
     return child;
+}
+
+int waitForChild(pid_t process) {
+    constexpr int signalBase = 128;
+    constexpr int unknown = 255;
+    int status = 0;
+    while (::waitpid(process, &status, 0) == -1) {
+        if (errno != EINTR) {
+            return unknown; // somebody else has waited for it
+        }
+    }
+    return WIFSIGNALED(status) ? signalBase + WTERMSIG(status) : WEXITSTATUS(status);
 }
 
 } // namespace kelmar

@@ -6,7 +6,6 @@
 #include <cstdlib>
 #include <memory>
 #include <optional>
-#include <string_view>
 
 #include <unistd.h>
 
@@ -30,22 +29,44 @@ std::vector<std::string> prefixes(const std::vector<std::string>& folders) {
     return result;
 }
 
+class Inside {
+public:
+    explicit Inside(const std::vector<std::string>& folders) : prefixes_(prefixes(folders)) {}
+
+    /// Whether `process` is another one than this, and runs from inside the folders.
+    [[nodiscard]] bool has(pid_t process) const {
+        const std::optional<std::string> path =
+            process < 1 || process == ::getpid() ? std::nullopt : executablePath(process);
+        return path &&
+               std::any_of(prefixes_.begin(), prefixes_.end(), [&path](const std::string& prefix) {
+                   return path->starts_with(prefix);
+               });
+    }
+
+private:
+    std::vector<std::string> prefixes_;
+};
+
 } // namespace
 
 std::vector<pid_t> processesUnder(const std::vector<std::string>& folders) {
-    const std::vector<std::string> inside = prefixes(folders);
-    const auto isInside = [&inside](const std::string& path) {
-        return std::any_of(inside.begin(), inside.end(),
-                           [&path](const std::string& prefix) { return path.starts_with(prefix); });
-    };
+    const Inside inside(folders);
     std::vector<pid_t> found;
     for (const pid_t process : processIdentifiers()) {
-        if (process < 1 || process == ::getpid()) {
-            continue;
-        }
-        const std::optional<std::string> path = executablePath(process);
-        if (path && isInside(*path)) {
+        if (inside.has(process)) {
             found.push_back(process);
+        }
+    }
+    return found;
+}
+
+std::vector<HeldProcess> ownProcessesUnder(const std::vector<std::string>& folders) {
+    const Inside inside(folders);
+    std::vector<HeldProcess> found;
+    for (const pid_t process : processesUnder(folders)) {
+        const HeldProcess held(process);
+        if (inside.has(process) && processOwner(process) == ::getuid()) {
+            found.push_back(held);
         }
     }
     return found;

@@ -1,10 +1,10 @@
 #pragma once
 
+#include "system/process/held_process.hpp"
+
 #include <memory>
 #include <string>
 #include <vector>
-
-#include <sys/types.h>
 
 namespace kelmar {
 
@@ -17,7 +17,7 @@ struct ApplicationIdentity {
 
 /// An application running now.
 struct RunningApplication {
-    pid_t process = -1;
+    HeldProcess process;
     std::shared_ptr<void> handle; ///< what the system knows it by, where a process is not enough
 
     /// Asks it to quit, the way its own menu would. Whether the system took the request: the

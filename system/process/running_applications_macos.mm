@@ -42,7 +42,7 @@ std::vector<RunningApplication> runningApplications(const ApplicationIdentity& i
             // takes for "every process".
             const pid_t process = [application processIdentifier];
             if (process > 0) {
-                running.push_back({process, handleOf(application)});
+                running.push_back({HeldProcess(process), handleOf(application)});
             }
         }
     }

@@ -2,13 +2,18 @@
 
 #include "system/process/thread_name.hpp"
 
+#include <system_error>
 #include <utility>
 
 namespace kelmar {
 
-SerialQueue::SerialQueue(std::string label)
-    : label_(std::move(label)),
-      thread_([this] { work(); }) {}
+SerialQueue::SerialQueue(std::string label) : label_(std::move(label)) {
+    try {
+        thread_ = std::thread([this] { work(); });
+    } catch (const std::system_error&) {
+        // See the header: whoever uses the queue gets its jobs done, only later.
+    }
+}
 
 SerialQueue::~SerialQueue() {
     {
@@ -16,7 +21,9 @@ SerialQueue::~SerialQueue() {
         ending_ = true;
     }
     changed_.notify_all();
-    thread_.join();
+    if (thread_.joinable()) {
+        thread_.join();
+    }
 }
 
 void SerialQueue::startTimer(std::chrono::milliseconds period, Job job) {
@@ -35,6 +42,10 @@ void SerialQueue::cancelTimer() {
 }
 
 void SerialQueue::sync(const Job& job) {
+    if (!thread_.joinable()) {
+        job();
+        return;
+    }
     std::unique_lock lock(mutex_);
     changed_.wait(lock, [this] { return waiting_ == nullptr; });
     waiting_ = &job;

@@ -10,7 +10,8 @@
 namespace kelmar {
 
 /// A thread that runs one job at a time: a repeating one on its timer, and others while their
-/// callers wait. What only its jobs touch needs no lock of its own.
+/// callers wait. What only its jobs touch needs no lock of its own. Where the system starts no
+/// thread, there is no timer, and `sync` runs its job on the caller's.
 class SerialQueue {
 public:
     using Job = std::function<void()>;

@@ -4,40 +4,73 @@
 #include "system/process/child_process.hpp"
 #include "system/text/utf8.hpp"
 
+#include <array>
 #include <cerrno>
 #include <system_error>
 
-#include <sys/wait.h>
+#include <poll.h>
 
 namespace kelmar::Shell {
 
 namespace {
 
-constexpr int signalBase = 128;
+std::string causeOf(int error) {
+    return std::generic_category().message(error);
+}
 
-std::int32_t waitFor(pid_t process) {
-    int status = 0;
-    while (::waitpid(process, &status, 0) == -1) {
-        if (errno != EINTR) {
-            return -1;
+/// Reads both streams as they come: a child that fills the pipe of the one while the other is
+/// waited for would never end.
+void drainBoth(StartedChild& child, std::string& output, std::string& error) {
+    constexpr std::size_t portion = 65536;
+    std::array<FileDescriptor*, 2> ends{&child.output, &child.errors};
+    std::array<std::string*, 2> texts{&output, &error};
+    while (child.output.isOpen() || child.errors.isOpen()) {
+        // poll(2) passes over a negative descriptor, which a closed one has.
+        std::array<pollfd, 2> states{
+            {{child.output.get(), POLLIN, 0}, {child.errors.get(), POLLIN, 0}}};
+        if (::poll(states.data(), states.size(), -1) < 0) {
+            if (errno == EINTR) {
+                continue;
+            }
+            return;
+        }
+        for (std::size_t index = 0; index < ends.size(); ++index) {
+            if (states.at(index).revents != 0 &&
+                readOnce(ends.at(index)->get(), *texts.at(index), portion) <= 0) {
+                *ends.at(index) = FileDescriptor();
+            }
         }
     }
-    return WIFSIGNALED(status) ? signalBase + WTERMSIG(status) : WEXITSTATUS(status);
 }
 
 } // namespace
 
-Result run(const std::string& executable, const std::vector<std::string>& arguments) {
+Result run(const std::string& executable, const std::vector<std::string>& arguments,
+           std::size_t limit) {
     StartedChild child = startChild(executable, arguments);
     if (child.error != 0) {
-        return {-1, std::generic_category().message(child.error)};
+        return {-1, causeOf(child.error)};
     }
     // Reading comes before waiting: a child that fills the pipe would otherwise never end.
     std::string bytes;
-    appendToEnd(child.output.get(), bytes);
+    appendToEnd(child.output.get(), bytes, limit);
+    dropToEnd(child.output.get());
     child.output = FileDescriptor();
-    const std::int32_t status = waitFor(child.process);
+    const std::int32_t status = waitForChild(child.process);
     return {status, decodeUtf8(bytes)};
+}
+
+SeparateResult runSeparately(const std::string& executable,
+                             const std::vector<std::string>& arguments) {
+    StartedChild child = startChild(executable, arguments, ChildStreams::apart);
+    if (child.error != 0) {
+        return {-1, {}, causeOf(child.error)};
+    }
+    std::string output;
+    std::string error;
+    drainBoth(child, output, error);
+    const std::int32_t status = waitForChild(child.process);
+    return {status, decodeUtf8(output), decodeUtf8(error)};
 }
 
 } // namespace kelmar::Shell

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstddef>
 #include <cstdint>
 #include <string>
 #include <vector>
@@ -20,11 +21,27 @@ struct Result {
     friend bool operator==(const Result&, const Result&) = default;
 };
 
+/// The same with the two streams apart.
+struct SeparateResult {
+    std::int32_t status = 0;
+    std::string output;
+    std::string error; ///< of standard error; the cause when the child could not be started
+
+    friend bool operator==(const SeparateResult&, const SeparateResult&) = default;
+};
+
 /// Runs the program at the absolute path `executable` with `arguments`, passed as they are with no
-/// shell between, waits for its end without a time-out and collects its output. The child inherits
-/// this process's environment and working folder, reads end-of-file from standard input, has every
-/// signal at its default and unblocked, and inherits no other descriptor. Never throws for a child
-/// that fails. May be called from any number of threads at once; blocks the calling one.
-Result run(const std::string& executable, const std::vector<std::string>& arguments);
+/// shell between, waits for its end without a timeout and collects its output, of which it keeps at
+/// most the first `limit` bytes. The child inherits this process's environment and working folder,
+/// reads end-of-file from standard input, and inherits no other descriptor (see `startChild` for
+/// signals). Never throws for a child that fails. May be called from any number of threads at once;
+/// blocks the calling one.
+Result run(const std::string& executable, const std::vector<std::string>& arguments,
+           std::size_t limit = std::string::npos);
+
+/// The same, keeping standard output and standard error apart: only what the child's own side has
+/// in hand is on its standard output, whoever else may write to standard error.
+SeparateResult runSeparately(const std::string& executable,
+                             const std::vector<std::string>& arguments);
 
 } // namespace kelmar::Shell

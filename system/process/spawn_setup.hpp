@@ -17,8 +17,8 @@ struct PrivatePipe {
 PrivatePipe openPrivatePipe();
 
 /// Adds to `actions` and `flags` what keeps every descriptor from the child that no earlier action
-/// gave it, whoever opened it and however.
-void inheritNothingElse(posix_spawn_file_actions_t& actions, short& flags);
+/// gave it, whoever opened it and however. 0, or the errno value of what failed.
+int inheritNothingElse(posix_spawn_file_actions_t& actions, short& flags);
 
 /// The environment of this process, as execve(2) takes it.
 char** environmentForChildren();

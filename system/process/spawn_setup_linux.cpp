@@ -15,9 +15,9 @@ PrivatePipe openPrivatePipe() {
     return {FileDescriptor(ends[0]), FileDescriptor(ends[1]), 0};
 }
 
-void inheritNothingElse(posix_spawn_file_actions_t& actions, short& /*flags*/) {
+int inheritNothingElse(posix_spawn_file_actions_t& actions, short& /*flags*/) {
     // What this process inherited itself, from a shell's "3>file" say, goes no further.
-    ::posix_spawn_file_actions_addclosefrom_np(&actions, STDERR_FILENO + 1);
+    return ::posix_spawn_file_actions_addclosefrom_np(&actions, STDERR_FILENO + 1);
 }
 
 char** environmentForChildren() {

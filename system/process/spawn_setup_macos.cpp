@@ -20,9 +20,10 @@ PrivatePipe openPrivatePipe() {
     return {FileDescriptor(ends[0]), FileDescriptor(ends[1]), 0};
 }
 
-void inheritNothingElse(posix_spawn_file_actions_t& /*actions*/, short& flags) {
+int inheritNothingElse(posix_spawn_file_actions_t& /*actions*/, short& flags) {
     // posix_spawnattr_setflags(3): only what the file actions made stays open in the child.
     flags = static_cast<short>(flags | POSIX_SPAWN_CLOEXEC_DEFAULT);
+    return 0;
 }
 
 char** environmentForChildren() {

@@ -22,18 +22,18 @@ std::string outcome(const std::string& output) {
 }
 
 TEST(PromptProcess, IsToldItsRequestInOptions) {
-    const Request request{marker, "/A/u.sh", "It's needed.", {"--status", "/t/a b", ""}};
+    const Request request{marker, "/A/u.sh", {"--status", "/t/it's a \"b\"", ""}};
     EXPECT_EQ(PromptProcess::request(PromptProcess::options(request)), request);
-    const Request bare{marker, "/A/u.sh", "Why.", {}};
+    const Request bare{marker, "/A/u.sh", {}};
     EXPECT_EQ(PromptProcess::request(PromptProcess::options(bare)), bare);
 }
 
 TEST(PromptProcess, IsNotMeantByOtherOptions) {
     EXPECT_FALSE(PromptProcess::request({}));
     EXPECT_FALSE(PromptProcess::request({"--scan"}));
-    EXPECT_FALSE(PromptProcess::request({"--scan", marker, "/A/u.sh", "Why."}));
-    EXPECT_FALSE(PromptProcess::request({"--ask-administrator", marker, "/A/u.sh"}));
-    EXPECT_FALSE(PromptProcess::request({"--ask-administrator", "", "/A/u.sh", "Why."}));
+    EXPECT_FALSE(PromptProcess::request({"--scan", marker, "/A/u.sh"}));
+    EXPECT_FALSE(PromptProcess::request({"--ask-administrator", marker}));
+    EXPECT_FALSE(PromptProcess::request({"--ask-administrator", "", "/A/u.sh"}));
 }
 
 TEST(PromptProcess, ReportsEachOutcome) {
@@ -71,7 +71,7 @@ TEST(PromptProcess, ThatEndsWithoutAWholeReportHasFailed) {
 }
 
 TEST(PromptProcess, IsNotNeededHere) {
-    EXPECT_FALSE(PromptProcess::run(PromptProcess::options({marker, "/A/u.sh", "Why.", {}})))
+    EXPECT_FALSE(PromptProcess::run(PromptProcess::options({marker, "/A/u.sh", {}})))
         << "sudo asks by itself";
 }
 

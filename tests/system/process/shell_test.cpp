@@ -113,7 +113,8 @@ std::uint64_t signalsIn(const std::string& status, const std::string& name) {
            ~reserved;
 }
 
-TEST(Shell, TheChildsSignalsAreAtTheirDefaults) {
+/// nohup(1) ignores SIGHUP for everything that it starts, and what it started is to keep that.
+TEST(Shell, TheChildIgnoresWhatTheCallerIgnoresButNotWhatThisProgramDoes) {
     sigset_t blocked;
     sigset_t before;
     sigemptyset(&blocked);
@@ -127,7 +128,34 @@ TEST(Shell, TheChildsSignalsAreAtTheirDefaults) {
     std::signal(SIGHUP, hangUpBefore);
     pthread_sigmask(SIG_SETMASK, &before, nullptr);
     EXPECT_EQ(signalsIn(status, "SigBlk"), 0U);
+    EXPECT_EQ(signalsIn(status, "SigIgn"), 1ULL << (SIGHUP - 1));
+}
+
+TEST(Shell, AChildCanWaitForItsOwnEvenIfChildrenAreIgnoredHere) {
+    const auto before = std::signal(SIGCHLD, SIG_IGN);
+    const std::string status = Shell::run("/bin/cat", {"/proc/self/status"}).output;
+    const Shell::Result ended = sh("exit 3");
+    std::signal(SIGCHLD, before);
     EXPECT_EQ(signalsIn(status, "SigIgn"), 0U);
+    EXPECT_EQ(ended.status, 255) << "it was started, and nobody knows how it ended";
+}
+
+TEST(Shell, KeepsTheFirstBytesOnlyWhenToldTo) {
+    const Shell::Result result = Shell::run(
+        "/bin/sh", {"-c", "echo first; head -c 400000000 /dev/zero; exit 3"}, 8);
+    EXPECT_EQ(result, (Shell::Result{3, std::string("first\n\0\0", 8)}));
+}
+
+TEST(Shell, KeepsTheTwoStreamsApartWhenToldTo) {
+    EXPECT_EQ(Shell::runSeparately("/bin/sh", {"-c", "echo out; echo err >&2; cat; exit 3"}),
+              (Shell::SeparateResult{3, "out\n", "err\n"}));
+    EXPECT_EQ(Shell::runSeparately("/no/such/program", {}),
+              (Shell::SeparateResult{-1, "", "No such file or directory"}));
+    const Shell::SeparateResult much = Shell::runSeparately(
+        "/bin/sh", {"-c", "head -c 4000000 /dev/zero; head -c 4000000 /dev/zero >&2; echo x"});
+    EXPECT_EQ(much.status, 0);
+    EXPECT_EQ(much.output.size(), 4'000'002U);
+    EXPECT_EQ(much.error.size(), 4'000'000U);
 }
 
 TEST(Shell, TheChildInheritsNoOtherDescriptor) {
@@ -173,7 +201,11 @@ TEST(Shell, WorksWhenThisProcessHasNoStandardStreams) {
         ::close(0);
         ::close(1);
         ::close(2);
-        const bool right = sh("cat; echo out; echo err >&2") == Shell::Result{0, "out\nerr\n"};
+        const std::string command = "cat; echo out; echo err >&2";
+        const bool right =
+            sh(command) == Shell::Result{0, "out\nerr\n"} &&
+            Shell::runSeparately("/bin/sh", {"-c", command}) ==
+                Shell::SeparateResult{0, "out\n", "err\n"};
         ::_exit(right ? 0 : 1);
     }
     int status = -1;
