@@ -61,7 +61,7 @@ void StatusTail::read() {
         return;
     }
     std::string bytes;
-    while (offset_ < size) {
+    while (isSound_ && offset_ < size) {
         const ssize_t count =
             readOnce(file.get(), bytes, std::min<std::uint64_t>(portion, size - offset_));
         if (count <= 0) {

@@ -5,6 +5,8 @@
 
 #include <chrono>
 #include <condition_variable>
+#include <cstdint>
+#include <filesystem>
 #include <fstream>
 #include <mutex>
 #include <string>
@@ -228,6 +230,34 @@ TEST_F(Tail, StopDoesNotWaitForTheNextPeriod) {
     const auto start = Clock::now();
     tail.stop();
     EXPECT_LT(Clock::now() - start, std::chrono::milliseconds(100));
+}
+
+TEST_F(Tail, OfATerabyteReadsNothingAndSaysSo) {
+    append("LOG a\n");
+    std::filesystem::resize_file(file, std::uintmax_t{1} << 40);
+    tail.start();
+    tail.stop();
+    EXPECT_FALSE(tail.isSound());
+    EXPECT_EQ(lines, Lines{});
+}
+
+TEST_F(Tail, TakesNoLineThatNobodysScriptWrites) {
+    append("LOG a\n" + std::string(5'000'000, 'x'));
+    tail.start();
+    tail.stop();
+    EXPECT_FALSE(tail.isSound());
+    ASSERT_EQ(lines.size(), 1U);
+    EXPECT_EQ(lines[0], "LOG a");
+}
+
+TEST_F(Tail, TakesALongPathInALine) {
+    const std::string line = "OK /" + std::string(500'000, 'x') + "\xC3\xA4";
+    append(line + "\nDONE\n");
+    tail.start();
+    tail.stop();
+    EXPECT_TRUE(tail.isSound());
+    ASSERT_EQ(lines.size(), 2U);
+    EXPECT_TRUE(lines[0] == line);
 }
 
 TEST(TailWithoutStop, HandsNothingOutAfterItsEnd) {

@@ -8,6 +8,7 @@
 
 #include <filesystem>
 #include <string>
+#include <variant>
 #include <vector>
 
 namespace kelmar {
@@ -115,6 +116,41 @@ TEST_F(Removal, SettingsGoInTheirOrder) {
               (Lines{"doing Removing ~/Library/Logs/Kelmar", "log Removed ~/Library/Logs/Kelmar",
                      "doing Removing ~/Library/Caches/com.quobrintal.app",
                      "log Removed ~/Library/Caches/com.quobrintal.app"}));
+}
+
+TEST_F(Removal, WhatIsSavedInAnEmptyFolderAtTheLastMomentStays) {
+    tree.folder(home("/Kelmar"));
+    engine.emit = [this, tell = transcript.emit()](const Uninstaller::Event& event) {
+        tell(event);
+        if (std::holds_alternative<Uninstaller::Doing>(event)) {
+            tree.file(home("/Kelmar/thesis.txt"), "years of work").file(home("/Kelmar/.DS_Store"));
+        }
+    };
+    engine.removeIfEmpty(home("/Kelmar"));
+    EXPECT_EQ(transcript.lines,
+              (Lines{"doing Removing ~/Kelmar", "log ~/Kelmar: it still holds thesis.txt."}));
+    EXPECT_TRUE(fs::exists(home("/Kelmar/thesis.txt")));
+    EXPECT_EQ(engine.failures, Failures{});
+}
+
+TEST_F(Removal, AnEmptyFolderBehindALinkStaysAndTheLinkGoes) {
+    tree.folder(home("/elsewhere")).link(home("/Kelmar"), "elsewhere");
+    engine.removeIfEmpty(home("/Kelmar"));
+    EXPECT_EQ(transcript.lines, (Lines{"doing Removing ~/Kelmar", "log Removed ~/Kelmar"}));
+    EXPECT_FALSE(fs::is_symlink(home("/Kelmar")));
+    EXPECT_TRUE(fs::exists(home("/elsewhere")));
+}
+
+TEST_F(Removal, AnEmptyFolderThatCannotGoIsAFailureInTheSystemsWords) {
+    tree.folder(home("/Kelmar"));
+    const test::Unremovable locked(home("/Kelmar"));
+    if (!locked.works()) {
+        GTEST_SKIP() << test::Unremovable::obstacle;
+    }
+    engine.removeIfEmpty(home("/Kelmar"));
+    EXPECT_EQ(transcript.lines, (Lines{"doing Removing ~/Kelmar",
+                                       "log Could not remove ~/Kelmar: Operation not permitted"}));
+    EXPECT_EQ(engine.failures, (Failures{{home("/Kelmar"), "Operation not permitted"}}));
 }
 
 } // namespace

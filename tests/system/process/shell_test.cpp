@@ -141,8 +141,8 @@ TEST(Shell, AChildCanWaitForItsOwnEvenIfChildrenAreIgnoredHere) {
 }
 
 TEST(Shell, KeepsTheFirstBytesOnlyWhenToldTo) {
-    const Shell::Result result = Shell::run(
-        "/bin/sh", {"-c", "echo first; head -c 400000000 /dev/zero; exit 3"}, 8);
+    const Shell::Result result =
+        Shell::run("/bin/sh", {"-c", "echo first; head -c 400000000 /dev/zero; exit 3"}, 8);
     EXPECT_EQ(result, (Shell::Result{3, std::string("first\n\0\0", 8)}));
 }
 
@@ -202,10 +202,9 @@ TEST(Shell, WorksWhenThisProcessHasNoStandardStreams) {
         ::close(1);
         ::close(2);
         const std::string command = "cat; echo out; echo err >&2";
-        const bool right =
-            sh(command) == Shell::Result{0, "out\nerr\n"} &&
-            Shell::runSeparately("/bin/sh", {"-c", command}) ==
-                Shell::SeparateResult{0, "out\n", "err\n"};
+        const bool right = sh(command) == Shell::Result{0, "out\nerr\n"} &&
+                           Shell::runSeparately("/bin/sh", {"-c", command}) ==
+                               Shell::SeparateResult{0, "out\n", "err\n"};
         ::_exit(right ? 0 : 1);
     }
     int status = -1;
