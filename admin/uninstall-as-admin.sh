@@ -203,6 +203,8 @@ walk() { # NAME: a folder in the current one; removes it, or goes through it for
             for name in *(DNoN^u$asker); do remove $name; done
         fi
         for name in *(DN/oN); do
+            # Beyond any path that is in use, zsh goes by itself: it looks as closely, and needs no paths.
+            [[ $task == whole ]] && (( $#trail % 1000 == 64 )) && (zf_rm -rfs -- $name)
             look $name && is_folder && names+=($name) known+=($s[1]:$s[2]) depths+=($#trail)
         done
     done

@@ -13,7 +13,7 @@ namespace {
 constexpr std::size_t headerSize = 8;
 constexpr std::size_t trailerSize = 32;
 constexpr std::size_t depthLimit = 64;
-constexpr std::uint64_t costLimit = 16'000'000; ///< bytes of the tree when written out
+constexpr std::uint64_t costLimit = 64'000'000; ///< bytes of the tree when written out
 constexpr std::uint64_t nodeCost = 128;         ///< what one node takes beside its content
 
 /// What an object takes when it is written out in full.

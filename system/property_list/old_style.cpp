@@ -35,11 +35,18 @@ public:
 
     std::optional<std::string> read() {
         skipBlank();
-        const bool sound = take('{') && dictionary(0) && (skipBlank(), rest_.empty());
-        return sound && !unterminatedComment_ ? found_ : std::nullopt;
+        return take('{') && dictionary(0) && isAtEnd() ? found_ : std::nullopt;
     }
 
+    /// Whether all of the text is one value of the form, whatever it holds.
+    bool isSound() { return value(0, false) && isAtEnd(); }
+
 private:
+    bool isAtEnd() {
+        skipBlank();
+        return rest_.empty() && !unterminatedComment_;
+    }
+
     bool take(char character) {
         if (rest_.empty() || rest_.front() != character) {
             return false;
@@ -216,6 +223,12 @@ private:
 std::optional<std::string> stringInOldStylePropertyList(std::string_view text,
                                                         std::string_view key) {
     return Reader(text, key).read();
+}
+
+bool isModestOldStylePropertyList(std::string_view text) {
+    const auto isOpening = [](char character) { return character == '(' || character == '{'; };
+    return std::count_if(text.begin(), text.end(), isOpening) <= depthLimit ||
+           Reader(text, {}).isSound();
 }
 
 } // namespace kelmar

@@ -13,4 +13,8 @@ namespace kelmar {
 std::optional<std::string> stringInOldStylePropertyList(std::string_view text,
                                                         std::string_view key);
 
+/// Whether a reader that goes down `text` by recursion stays on a small stack: it holds few
+/// containers, or is sound in the old text form and nested no deeper than any real record.
+bool isModestOldStylePropertyList(std::string_view text);
+
 } // namespace kelmar

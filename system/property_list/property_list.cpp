@@ -8,7 +8,7 @@ namespace kelmar {
 
 namespace {
 
-constexpr std::size_t sizeLimit = 1'048'576;
+constexpr std::size_t sizeLimit = 16'777'216;
 
 } // namespace
 

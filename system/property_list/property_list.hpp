@@ -8,7 +8,7 @@ namespace kelmar {
 
 /// The text under `key` in the dictionary that the property-list file at `path` holds, in any of
 /// the forms that property lists come in (XML, binary, old text form; see plist(5)). Absent when
-/// the file cannot be read, is larger than a version record can sensibly be (1 MiB), is malformed
+/// the file cannot be read, is larger than any version record (16 MiB), is malformed
 /// or hostile, holds no dictionary, or holds something other than text under `key`. Takes bounded
 /// time and memory whatever the file holds. May be called from any thread.
 std::optional<std::string> propertyListString(const std::string& path, std::string_view key);

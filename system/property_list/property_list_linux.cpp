@@ -7,8 +7,12 @@
 
 #include <plist/plist.h>
 
+#include <algorithm>
 #include <cstdint>
 #include <memory>
+
+#include <iconv.h>
+#include <strings.h>
 
 namespace kelmar {
 
@@ -45,6 +49,48 @@ std::optional<std::string> stringInBinary(std::string_view bytes, std::string_vi
     return stringInDictionary(Node(root), key);
 }
 
+/// The encoding that an XML declaration names, in the characters that all of them share; empty
+/// without one.
+std::string declaredEncoding(std::string_view text) {
+    constexpr std::string_view name = "encoding=";
+    const std::string_view declaration =
+        text.starts_with("<?xml") ? text.substr(0, text.find("?>")) : std::string_view();
+    const std::size_t at = declaration.find(name);
+    if (at == std::string_view::npos || at + name.size() >= declaration.size()) {
+        return {};
+    }
+    const char quote = declaration[at + name.size()];
+    const std::string_view value = declaration.substr(at + name.size() + 1);
+    const std::size_t end = value.find(quote);
+    return std::string(end == std::string_view::npos ? std::string_view() : value.substr(0, end));
+}
+
+struct CloseConverter {
+    void operator()(iconv_t converter) const { ::iconv_close(converter); }
+};
+
+/// `bytes` in UTF-8 as iconv(3) reads them in `encoding`; absent when it doesn't know that or when
+/// they are not such.
+std::optional<std::string> utf8From(const std::string& encoding, std::string_view bytes) {
+    const iconv_t opened = ::iconv_open("UTF-8", encoding.c_str());
+    // iconv_open(3) answers with a pointer that is no pointer.
+    if (opened == reinterpret_cast<iconv_t>(std::intptr_t{-1})) {
+        return std::nullopt;
+    }
+    const std::unique_ptr<void, CloseConverter> converter(opened);
+    constexpr std::size_t longest = 4; // bytes of a character in UTF-8
+    std::string text(bytes.size() * longest, '\0');
+    char* from = const_cast<char*>(bytes.data()); // read only, whatever the type says
+    std::size_t left = bytes.size();
+    char* to = text.data();
+    std::size_t room = text.size();
+    if (::iconv(converter.get(), &from, &left, &to, &room) == static_cast<std::size_t>(-1)) {
+        return std::nullopt;
+    }
+    text.resize(text.size() - room);
+    return text;
+}
+
 std::optional<std::string> stringInXml(std::string_view text, std::string_view key) {
     if (!isModestXmlPropertyList(text)) {
         return std::nullopt;
@@ -58,6 +104,12 @@ std::optional<std::string> stringInText(std::string_view text, std::string_view 
     constexpr std::string_view byteOrderMark = "\xEF\xBB\xBF";
     if (text.starts_with(byteOrderMark)) {
         text.remove_prefix(byteOrderMark.size());
+    }
+    const std::string encoding = declaredEncoding(text);
+    const bool isAscii = std::all_of(text.begin(), text.end(), [](char byte) { return byte >= 0; });
+    if (!isAscii && !encoding.empty() && ::strcasecmp(encoding.c_str(), "UTF-8") != 0) {
+        const std::optional<std::string> converted = utf8From(encoding, text);
+        return converted && isUtf8(*converted) ? stringInXml(*converted, key) : std::nullopt;
     }
     if (!isUtf8(text)) {
         return std::nullopt;

@@ -1,4 +1,5 @@
 #include "system/property_list/binary.hpp"
+#include "system/property_list/old_style.hpp"
 #include "system/property_list/property_list.hpp"
 #include "system/property_list/xml.hpp"
 #include "system/text/foundation_text_macos.hpp"
@@ -9,8 +10,6 @@ namespace kelmar {
 
 namespace {
 
-constexpr std::ptrdiff_t oldStyleContainerLimit = 64;
-
 /// The system's reader goes down a tree by recursion, and threads of a queue have half a megabyte
 /// of stack. Null characters stand beside those of tags in UTF-16 and UTF-32, and nowhere else.
 bool isModest(std::string_view bytes) {
@@ -19,10 +18,9 @@ bool isModest(std::string_view bytes) {
     }
     std::string text(bytes);
     std::erase(text, '\0');
-    const auto isOpening = [](char character) { return character == '(' || character == '{'; };
     return text.find("<?xml") != std::string::npos || text.find("<plist") != std::string::npos
                ? isModestXmlPropertyList(text)
-               : std::count_if(text.begin(), text.end(), isOpening) <= oldStyleContainerLimit;
+               : isModestOldStylePropertyList(text);
 }
 
 } // namespace

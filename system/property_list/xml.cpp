@@ -32,6 +32,14 @@ std::size_t passageLength(std::string_view text) {
     return 0;
 }
 
+/// Whether the tag that `text` begins with, which is `word` long without its ">", closes itself:
+/// "<dict/>". One with attributes may hold these characters in a quoted value and counts as open.
+bool isEmptyElement(std::string_view text, std::size_t word) {
+    text.remove_prefix(word);
+    text.remove_prefix(std::min(text.find_first_not_of(" \t\r\n"), text.size()));
+    return text.starts_with("/>");
+}
+
 template <std::size_t count>
 bool startsWithAny(std::string_view text, const std::array<std::string_view, count>& words) {
     return std::any_of(words.begin(), words.end(),
@@ -48,9 +56,12 @@ bool isModestXmlPropertyList(std::string_view text) {
     std::size_t nesting = 0;
     for (std::size_t at = text.find('<'); at != std::string_view::npos; at = text.find('<', at)) {
         const std::string_view rest = text.substr(at);
-        if (startsWithAny(rest, openings)) {
+        const auto* const opening =
+            std::find_if(openings.begin(), openings.end(),
+                         [rest](std::string_view word) { return rest.starts_with(word); });
+        if (opening != openings.end()) {
             ++containers;
-            ++nesting; // "<dict/>" is counted as left open: too much is the safe side
+            nesting += isEmptyElement(rest, opening->size()) ? 0U : 1U;
         } else if (startsWithAny(rest, closings) && nesting > 0) {
             --nesting;
         }

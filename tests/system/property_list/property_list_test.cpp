@@ -127,10 +127,49 @@ TEST(PropertyList, IsReadFromAFileThroughLinks) {
     EXPECT_EQ(propertyListString(folder / "link", key), "4.2.1");
 }
 
+TEST(PropertyList, OfMegabytesIsReadAsAnyOther) {
+    const test::TemporaryFolder folder;
+    std::ofstream(folder / "large") << test::versionRecord("5") << std::string(3'000'000, ' ');
+    EXPECT_EQ(propertyListString(folder / "large", key), "5");
+}
+
+TEST(PropertyList, WithManyEmptyElementsIsReadAsAnyOther) {
+    std::string many = "<dict><key>a</key><array>";
+    for (int count = 0; count < 2'000; ++count) {
+        many += count % 2 == 0 ? "<array/>" : "<dict />";
+    }
+    many += "</array><key>CFBundleShortVersionString</key><string>7</string></dict>";
+    EXPECT_EQ(stringInPropertyList(xml(many), key), "7");
+}
+
+TEST(PropertyList, WithManyContainersInTheOldTextFormIsReadAsAnyOther) {
+    std::string many = "{ a = (";
+    for (int count = 0; count < 500; ++count) {
+        many += "(), {},";
+    }
+    EXPECT_EQ(stringInPropertyList(many + "); CFBundleShortVersionString = \"8\"; }", key), "8");
+}
+
+TEST(PropertyList, XmlIsReadInTheEncodingThatItDeclares) {
+    const std::string body = "<plist version=\"1.0\"><dict><key>CFBundleShortVersionString</key>"
+                             "<string>4 b\xEAta</string></dict></plist>";
+    EXPECT_EQ(stringInPropertyList("<?xml version=\"1.0\" encoding=\"ISO-8859-1\"?>" + body, key),
+              "4 b\xC3\xAAta");
+    EXPECT_EQ(stringInPropertyList("<?xml version='1.0' encoding='iso-8859-1'?>" + body, key),
+              "4 b\xC3\xAAta");
+    for (const char* const other : {"UTF-8", "no-such-encoding", ""}) {
+        EXPECT_EQ(stringInPropertyList(std::string("<?xml version=\"1.0\" encoding=\"") + other +
+                                           "\"?>" + body,
+                                       key),
+                  std::nullopt)
+            << other;
+    }
+}
+
 TEST(PropertyList, WhatIsNoSensibleFileHoldsNothing) {
     const test::TemporaryFolder folder;
     ASSERT_EQ(::mkfifo((folder / "pipe").c_str(), 0600), 0);
-    std::ofstream(folder / "enormous") << test::versionRecord("4") << std::string(1'048'576, ' ');
+    std::ofstream(folder / "enormous") << test::versionRecord("4") << std::string(16'777'216, ' ');
     for (const std::string& path : {folder / "missing", folder.path(), folder / "pipe",
                                     folder / "enormous", std::string("/dev/zero")}) {
         EXPECT_EQ(propertyListString(path, key), std::nullopt) << path;

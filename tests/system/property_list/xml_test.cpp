@@ -33,6 +33,14 @@ TEST(XmlPropertyList, NestedTooDeepIsNot) {
     EXPECT_FALSE(isModestXmlPropertyList(repeated("<array key='a'>", 129)));
 }
 
+TEST(XmlPropertyList, WithEmptyElementsSideBySideIsNotNested) {
+    EXPECT_TRUE(isModestXmlPropertyList(repeated("<array/>", 5'000)));
+    EXPECT_TRUE(isModestXmlPropertyList(repeated("<dict />", 5'000)));
+    EXPECT_TRUE(isModestXmlPropertyList(repeated("<dict\n\t/>", 5'000)));
+    EXPECT_FALSE(isModestXmlPropertyList(repeated("<dict a='/>'>", 129)))
+        << "a quoted value may look like an end";
+}
+
 TEST(XmlPropertyList, DoesNotCloseAContainerInAComment) {
     EXPECT_FALSE(isModestXmlPropertyList(repeated("<dict><!-- </dict> -->", 129)));
     EXPECT_FALSE(isModestXmlPropertyList(repeated("<dict><![CDATA[</dict>]]>", 129)));
