@@ -1,9 +1,9 @@
 #include "app/scan_listing.hpp"
 
+#include "app/printing.hpp"
 #include "discovery/inventory.hpp"
 #include "discovery/scanner.hpp"
 #include "discovery/size_in_words.hpp"
-#include "system/process/standard_streams.hpp"
 #include "system/text/strings.hpp"
 
 #include <string>
@@ -22,65 +22,81 @@ std::string column(std::string name) {
     return name;
 }
 
-void printPaths(const std::vector<std::string>& list, const KelmarPaths& paths) {
-    for (const std::string& path : list) {
-        printLine(indent + paths.display(path));
-    }
-}
+/// Prints lines as long as somebody reads them: a listing ends when its reader has gone, as after
+/// `--scan | head -1`, instead of measuring folders for nobody.
+class Listing {
+public:
+    explicit Listing(const KelmarPaths& paths) : paths_(paths) {}
 
-void print(const Installation& installation, const KelmarPaths& paths) {
-    const std::string whom = installation.scope == Scope::allUsers ? "all users" : "this user";
-    printLine("Installed for " + whom + ": Kelmar " +
-              installation.appVersion.value_or("(app missing)"));
-    printPaths(installation.paths(), paths);
-    if (!installation.receipts.empty()) {
-        printLine(indent + "install records: " + joined(installation.receipts, ", "));
+    void print(const Inventory& inventory) {
+        for (const Installation& installation : inventory.installations) {
+            print(installation);
+        }
+        if (inventory.appRunning) {
+            line("Kelmar is running.");
+        }
+        list("Services loaded in this login session: ", inventory.loadedServices);
+        if (!inventory.settings.empty()) {
+            line("Settings:");
+            indented(inventory.settings);
+        }
+        list("Keychain items: ", inventory.keychainItems);
+        for (const DataRoot& root : inventory.dataRoots) {
+            print(root);
+        }
     }
-    if (installation.needsAdministrator) {
-        printLine(indent +
-                  "(some files belong to another user: removing them needs an administrator)");
-    }
-}
 
-void print(const DataRoot& root, const KelmarPaths& paths) {
-    printLine("Data in " + paths.display(root.path) + ":");
-    for (const DataFolder& folder : root.folders) {
-        printLine(indent + column(folder.name) + " " +
-                  sizeInWords(Scanner::size(folder.path), "?"));
+private:
+    void line(const std::string& text) { isRead_ = isRead_ && kelmar::print(text); }
+
+    void list(const std::string& label, const std::vector<std::string>& words) {
+        if (!words.empty()) {
+            line(label + joined(words, ", "));
+        }
     }
-    if (!root.otherItems.empty()) {
-        printLine(indent + "also holds (always kept): " + joined(root.otherItems, ", "));
+
+    void indented(const std::vector<std::string>& paths) {
+        for (const std::string& path : paths) {
+            line(indent + paths_.display(path));
+        }
     }
-}
+
+    void print(const Installation& installation) {
+        const std::string whom = installation.scope == Scope::allUsers ? "all users" : "this user";
+        line("Installed for " + whom + ": Kelmar " +
+             installation.appVersion.value_or("(app missing)"));
+        indented(installation.paths());
+        list(indent + "install records: ", installation.receipts);
+        if (installation.needsAdministrator) {
+            line(indent +
+                 "(some files belong to another user: removing them needs an administrator)");
+        }
+    }
+
+    void print(const DataRoot& root) {
+        line("Data in " + paths_.display(root.path) + ":");
+        for (const DataFolder& folder : root.folders) {
+            if (isRead_) {
+                line(indent + column(folder.name) + " " +
+                     sizeInWords(Scanner::size(folder.path), "?"));
+            }
+        }
+        list(indent + "also holds (always kept): ", root.otherItems);
+    }
+
+    const KelmarPaths& paths_;
+    bool isRead_ = true;
+};
 
 } // namespace
 
 void printScan(const KelmarPaths& paths) {
     const Inventory inventory = Scanner::scan(paths);
     if (inventory.isEmpty()) {
-        printLine("Kelmar isn't on this Mac.");
+        print("Kelmar isn't on this Mac.");
         return;
     }
-    for (const Installation& installation : inventory.installations) {
-        print(installation, paths);
-    }
-    if (inventory.appRunning) {
-        printLine("Kelmar is running.");
-    }
-    if (!inventory.loadedServices.empty()) {
-        printLine("Services loaded in this login session: " +
-                  joined(inventory.loadedServices, ", "));
-    }
-    if (!inventory.settings.empty()) {
-        printLine("Settings:");
-        printPaths(inventory.settings, paths);
-    }
-    if (!inventory.keychainItems.empty()) {
-        printLine("Keychain items: " + joined(inventory.keychainItems, ", "));
-    }
-    for (const DataRoot& root : inventory.dataRoots) {
-        print(root, paths);
-    }
+    Listing(paths).print(inventory);
 }
 
 } // namespace kelmar

@@ -1,8 +1,8 @@
 #include "app/uninstall_command.hpp"
 
+#include "app/printing.hpp"
 #include "discovery/scanner.hpp"
 #include "engine/uninstaller.hpp"
-#include "system/process/standard_streams.hpp"
 
 #include <map>
 #include <set>
@@ -40,10 +40,10 @@ public:
 
     void operator()(const Uninstaller::StageStarted& event) const {
         const auto title = titles_.find(event.stage);
-        printLine("==> " + (title == titles_.end() ? "" : title->second));
+        print("==> " + (title == titles_.end() ? "" : title->second));
     }
 
-    void operator()(const Uninstaller::Log& event) const { printLine(indent + event.text); }
+    void operator()(const Uninstaller::Log& event) const { print(indent + event.text); }
 
     void operator()(const Uninstaller::StageFinished& /*event*/) const {}
 
@@ -55,12 +55,12 @@ private:
 
 std::int32_t report(const Uninstaller::Finished& outcome, const KelmarPaths& paths) {
     if (outcome.failures.empty()) {
-        printLine("Kelmar has been removed.");
+        print("Kelmar has been removed.");
         return removed;
     }
-    printLine("Not removed:");
+    print("Not removed:");
     for (const Uninstaller::Failure& failure : outcome.failures) {
-        printLine(indent + paths.display(failure.path) + ": " + failure.reason);
+        print(indent + paths.display(failure.path) + ": " + failure.reason);
     }
     return itemsLeft;
 }
@@ -70,7 +70,7 @@ std::int32_t report(const Uninstaller::Finished& outcome, const KelmarPaths& pat
 std::int32_t uninstall(const KelmarPaths& paths, bool deleteData) {
     const Inventory inventory = Scanner::scan(paths);
     if (inventory.isEmpty()) {
-        printLine("Kelmar isn't on this Mac; nothing to remove.");
+        print("Kelmar isn't on this Mac; nothing to remove.");
         return removed;
     }
     Uninstaller uninstaller(paths, inventory, selection(inventory, deleteData));
@@ -80,7 +80,7 @@ std::int32_t uninstall(const KelmarPaths& paths, bool deleteData) {
     if (const auto* const finished = std::get_if<Uninstaller::Finished>(&outcome)) {
         return report(*finished, paths);
     }
-    printLine("Cancelled at the administrator password prompt; nothing was removed.");
+    print("Cancelled at the administrator password prompt; nothing was removed.");
     return cancelled;
 }
 

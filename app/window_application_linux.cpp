@@ -1,6 +1,7 @@
 #include "app/window_application.hpp"
 #include "system/process/resources.hpp"
 #include "system/process/standard_streams.hpp"
+#include "system/text/harmless_text.hpp"
 
 #include <optional>
 #include <string>
@@ -11,27 +12,32 @@ namespace kelmar {
 
 namespace {
 
-/// The window is a module beside the executable, so that the command line neither needs nor waits
-/// for a toolkit. Null when it is not there, or when what it needs is not. The module itself is
-/// linked to be resolved at once (ld(1), -z now); the libraries below it need not be.
-void (*windowOfModule())() {
-    const std::optional<std::string> path = resourcePath("kelmar-window.so");
-    void* const module = path ? ::dlopen(path->c_str(), RTLD_LAZY | RTLD_LOCAL) : nullptr;
-    void* const entry = module != nullptr ? ::dlsym(module, "kelmarRunWindow") : nullptr;
-    return reinterpret_cast<void (*)()>(entry); // dlsym(3): what POSIX wants to be possible
+constexpr int noWindow = 2;
+
+int complain(const std::string& why) {
+    printErrorLine("Kelmar Uninstaller can't open its window here: " + harmlessText(why) +
+                   ". Use --scan to list what Kelmar has here, or --help for all options.");
+    return noWindow;
 }
 
 } // namespace
 
+// The window is a module beside the executable, so that the command line neither needs nor waits
+// for a toolkit. The module itself is linked to be resolved at once (ld(1), -z now); the libraries
+// below it need not be.
 int runWindowApplication() {
-    if (void (*const run)() = windowOfModule()) {
-        run();
-        return 0;
+    const std::optional<std::string> path = resourcePath("kelmar-window.so");
+    if (!path) {
+        return complain("that takes kelmar-window.so beside the program, and Qt 6");
     }
-    printErrorLine("Kelmar Uninstaller can't open its window here: that takes kelmar-window.so "
-                   "beside the program, and Qt 6. Use --scan to list what Kelmar has here, or "
-                   "--help for all options.");
-    return 2;
+    void* const module = ::dlopen(path->c_str(), RTLD_LAZY | RTLD_LOCAL);
+    void* const entry = module != nullptr ? ::dlsym(module, "kelmarRunWindow") : nullptr;
+    if (entry == nullptr) {
+        const char* const words = ::dlerror();
+        return complain(words != nullptr ? words : "kelmar-window.so has no window");
+    }
+    reinterpret_cast<void (*)()>(entry)(); // dlsym(3): what POSIX wants to be possible
+    return 0;
 }
 
 } // namespace kelmar

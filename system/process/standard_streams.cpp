@@ -10,7 +10,7 @@ namespace kelmar {
 
 namespace {
 
-void writeLine(int descriptor, std::string_view line) {
+bool writeLine(int descriptor, std::string_view line) {
     std::string text(line);
     text.push_back('\n');
     std::string_view rest = text;
@@ -23,19 +23,20 @@ void writeLine(int descriptor, std::string_view line) {
             pollfd stream{descriptor, POLLOUT, 0};
             ::poll(&stream, 1, -1);
         } else if (errno != EINTR) {
-            return;
+            return false;
         }
     }
+    return true;
 }
 
 } // namespace
 
-void printLine(std::string_view line) {
-    writeLine(STDOUT_FILENO, line);
+bool printLine(std::string_view line) {
+    return writeLine(STDOUT_FILENO, line);
 }
 
-void printErrorLine(std::string_view line) {
-    writeLine(STDERR_FILENO, line);
+bool printErrorLine(std::string_view line) {
+    return writeLine(STDERR_FILENO, line);
 }
 
 } // namespace kelmar

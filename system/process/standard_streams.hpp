@@ -6,11 +6,11 @@ namespace kelmar {
 
 /// Writes `line` and a newline to standard output, at once and as a whole, also when standard
 /// output is a pipe or a file: nothing is held back in a buffer. A write that fails (the reader has
-/// gone, the disk is full) loses the line and nothing else: what the program does never depends on
-/// who reads it. May be called from any thread; lines of several threads come in any order.
-void printLine(std::string_view line);
+/// gone, the disk is full) loses the line and answers false. May be called from any thread; lines
+/// of several threads come in any order.
+bool printLine(std::string_view line);
 
 /// The same for standard error.
-void printErrorLine(std::string_view line);
+bool printErrorLine(std::string_view line);
 
 } // namespace kelmar

@@ -12,6 +12,7 @@
 #include <vector>
 
 #include <fcntl.h>
+#include <sys/stat.h>
 #include <unistd.h>
 
 namespace kelmar {
@@ -51,6 +52,35 @@ TEST_F(Output, AReaderThatGoesAwayStopsNothing) {
         }
     };
     EXPECT_EQ(program.run().status, 0) << "the signal of a broken pipe is ignored";
+}
+
+/// A scan whose first data folder takes as long as the test lets it: `du` is in the way of a pipe.
+TEST_F(Output, AReaderThatGoesAwayEndsTheListing) {
+    // What du(1) reads leaves a trace: a folder that was read was measured.
+    const std::string folderOfData = tree.paths().dataRoot(Scope::me) + "/Database";
+    const auto measured = [&folderOfData] {
+        struct stat status {};
+
+        EXPECT_EQ(::stat(folderOfData.c_str(), &status), 0);
+        return status.st_atim.tv_sec != 1;
+    };
+    const timespec longAgo[2] = {{1, 0}, {1, 0}};
+    ASSERT_EQ(::utimensat(AT_FDCWD, folderOfData.c_str(), longAgo, 0), 0);
+    test::Program program = scan();
+    program.inChild = [] {
+        int ends[2];
+        if (::pipe(ends) == 0) {
+            ::dup2(ends[1], STDOUT_FILENO);
+            ::close(ends[0]);
+            ::close(ends[1]);
+        }
+    };
+    EXPECT_EQ(program.run().status, 0);
+    EXPECT_FALSE(measured());
+    EXPECT_EQ(scan().run().status, 0);
+    if (!measured()) {
+        GTEST_SKIP() << "here no trace is left of what was read";
+    }
 }
 
 TEST_F(Output, AFullDiskStopsNothing) {

@@ -2,7 +2,7 @@
 #include "tests/gnustep/harness/page_fixture.hpp"
 #include "tests/gnustep/harness/page_texts.hpp"
 #include "tests/gnustep/harness/sample_pages.hpp"
-#include "ui/harmless_text.hpp"
+#include "system/text/harmless_text.hpp"
 
 namespace kelmar {
 namespace {

@@ -4,7 +4,7 @@
 #include "ui/appkit/from_toolkit.hpp"
 #include "ui/appkit/metrics.hpp"
 #include "ui/appkit/row_list.h"
-#include "ui/harmless_text.hpp"
+#include "system/text/harmless_text.hpp"
 
 #include <algorithm>
 

@@ -2,7 +2,7 @@
 
 #include "system/text/foundation_text_macos.hpp"
 #include "ui/appkit/flipped_view.h"
-#include "ui/harmless_text.hpp"
+#include "system/text/harmless_text.hpp"
 
 #include <cmath>
 

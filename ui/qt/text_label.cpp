@@ -1,6 +1,6 @@
 #include "ui/qt/text_label.hpp"
 
-#include "ui/harmless_text.hpp"
+#include "system/text/harmless_text.hpp"
 #include "ui/qt/colours.hpp"
 
 #include <QAbstractButton>

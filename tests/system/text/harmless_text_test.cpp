@@ -1,4 +1,4 @@
-#include "ui/harmless_text.hpp"
+#include "system/text/harmless_text.hpp"
 
 #include <gtest/gtest.h>
 
@@ -17,6 +17,18 @@ TEST(HarmlessText, ShowsControlCharactersByTheirPictures) {
     EXPECT_EQ(harmlessText(std::string_view("a\0b", 3)), "a␀b");
 }
 
+TEST(HarmlessText, LeavesNoControlCharacterToATerminal) {
+    EXPECT_EQ(harmlessText("a\x7f"
+                           "b"),
+              "a␡b");
+    EXPECT_EQ(harmlessText("a\u0080b\u009Bc\u009Fd"), "a\uFFFDb\uFFFDc\uFFFDd");
+    EXPECT_EQ(harmlessText("\u00A0"), "\u00A0");
+}
+
+TEST(HarmlessText, HoldsNoMarkOfADirection) {
+    EXPECT_EQ(harmlessText("a\u200Eb\u200Fc\u061Cd"), "a\uFFFDb\uFFFDc\uFFFDd");
+}
+
 TEST(HarmlessText, DoesNotTurnItsDirection) {
     const std::string before = "\xE2\x80";
     const std::string isolate = "\xE2\x81";
@@ -33,8 +45,8 @@ TEST(HarmlessText, StaysInItsLine) {
 }
 
 TEST(HarmlessText, LeavesTheNeighboursOfThoseAlone) {
-    EXPECT_EQ(harmlessText("\u2026\u2027\u202F\u2065\u2070\u2010"),
-              "\u2026\u2027\u202F\u2065\u2070\u2010");
+    EXPECT_EQ(harmlessText("\u2026\u2027\u202F\u2065\u2070\u2010\u200D\u061B\u061D"),
+              "\u2026\u2027\u202F\u2065\u2070\u2010\u200D\u061B\u061D");
 }
 
 TEST(HarmlessText, RepairsWhatIsNoText) {
