@@ -124,9 +124,9 @@ void ContentWidget::renderBlocks(const WorkingContent& content) {
 }
 
 void ContentWidget::renderBlocks(const FinishedContent& content) {
-    block<SummaryWidget>(Place::summary).render(content.summary);
+    block<SummarySectionWidget>(Place::summary).render(content.summary);
     if (content.problems) {
-        block<ProblemsWidget>(Place::problems).render(*content.problems);
+        block<ProblemsSectionWidget>(Place::problems).render(*content.problems);
     }
     renderDetails(content.details);
 }

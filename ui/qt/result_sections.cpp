@@ -4,7 +4,7 @@
 
 namespace kelmar {
 
-SummaryWidget::SummaryWidget(QWidget* parent)
+SummarySectionWidget::SummarySectionWidget(QWidget* parent)
     : Section(parent),
       inside_(new QVBoxLayout),
       rows_(*inside_) {
@@ -13,7 +13,7 @@ SummaryWidget::SummaryWidget(QWidget* parent)
     card().rows().addLayout(inside_);
 }
 
-void SummaryWidget::render(const std::vector<SummaryRow>& rows) {
+void SummarySectionWidget::render(const std::vector<SummaryRow>& rows) {
     rows_.render(rows, [](std::size_t) {
         return new NoteRow(20, TextStyle::body, TextLabel::Tone::primary);
     });
@@ -37,9 +37,11 @@ void ProblemRowWidget::render(const ProblemRow& row) {
     reason_->showText(row.reason);
 }
 
-ProblemsWidget::ProblemsWidget(QWidget* parent) : Section(parent), rows_(card().rows()) {}
+ProblemsSectionWidget::ProblemsSectionWidget(QWidget* parent)
+    : Section(parent),
+      rows_(card().rows()) {}
 
-void ProblemsWidget::render(const ProblemsSection& section) {
+void ProblemsSectionWidget::render(const ProblemsSection& section) {
     renderTitle(section.title);
     rows_.render(section.rows, [](std::size_t index) { return new ProblemRowWidget(index == 0); });
 }

@@ -10,9 +10,9 @@
 namespace kelmar {
 
 /// What a finished run did and kept.
-class SummaryWidget : public Section {
+class SummarySectionWidget : public Section {
 public:
-    explicit SummaryWidget(QWidget* parent = nullptr);
+    explicit SummarySectionWidget(QWidget* parent = nullptr);
 
     void render(const std::vector<SummaryRow>& rows);
 
@@ -33,9 +33,9 @@ private:
 };
 
 /// What could not be removed.
-class ProblemsWidget : public Section {
+class ProblemsSectionWidget : public Section {
 public:
-    explicit ProblemsWidget(QWidget* parent = nullptr);
+    explicit ProblemsSectionWidget(QWidget* parent = nullptr);
 
     void render(const ProblemsSection& section);
 

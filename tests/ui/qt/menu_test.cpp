@@ -13,9 +13,9 @@
 namespace kelmar {
 namespace {
 
-class MenuBar : public testing::Test {
+class MainMenu : public testing::Test {
 protected:
-    MenuBar() {
+    MainMenu() {
         window.setWindowTitle("Kelmar Uninstaller");
         window.setCentralWidget(text);
         fillMenuBar(*window.menuBar(), mainMenu(),
@@ -46,7 +46,7 @@ protected:
     std::vector<MenuAction> asked;
 };
 
-TEST_F(MenuBar, HasItemsAndKeysWithControlForCommand) {
+TEST_F(MainMenu, HasItemsAndKeysWithControlForCommand) {
     std::vector<std::string> lines;
     for (const QAction* const top : window.menuBar()->actions()) {
         lines.push_back(top->text().toStdString());
@@ -65,7 +65,7 @@ TEST_F(MenuBar, HasItemsAndKeysWithControlForCommand) {
                                                "  Minimize Ctrl+M", "-", "  Kelmar Uninstaller "}));
 }
 
-TEST_F(MenuBar, GivesTheApplicationWhatIsTheApplications) {
+TEST_F(MainMenu, GivesTheApplicationWhatIsTheApplications) {
     for (const char* const title : {"About Kelmar Uninstaller", "Hide Kelmar Uninstaller",
                                     "Quit Kelmar Uninstaller", "Minimize"}) {
         item(title)->trigger();
@@ -74,7 +74,7 @@ TEST_F(MenuBar, GivesTheApplicationWhatIsTheApplications) {
                                   MenuAction::minimize}));
 }
 
-TEST_F(MenuBar, CopiesAndSelectsInTheTextThatHasTheFocus) {
+TEST_F(MainMenu, CopiesAndSelectsInTheTextThatHasTheFocus) {
     text->setFocus();
     item("Select All")->trigger();
     EXPECT_EQ(text->textCursor().selectedText(), "a record");
@@ -83,7 +83,7 @@ TEST_F(MenuBar, CopiesAndSelectsInTheTextThatHasTheFocus) {
     EXPECT_EQ(asked, std::vector<MenuAction>{});
 }
 
-TEST_F(MenuBar, GreysWhatNothingAnswersTo) {
+TEST_F(MainMenu, GreysWhatNothingAnswersTo) {
     text->clearFocus();
     Q_EMIT menu(1)->aboutToShow();
     EXPECT_FALSE(item("Copy")->isEnabled());
