@@ -8,14 +8,20 @@
 @implementation KelmarBusyRow
 
 + (instancetype)row {
-    KelmarBusyRow* const row = [[[self alloc] initWithFrame:NSZeroRect] autorelease];
-    row->spinner_ = kelmar::makeSpinner();
-    row->text_ = [KelmarTextLabel labelWithStyle:kelmar::TextStyle::body
-                                            tone:kelmar::TextTone::secondary];
-    [row addSubview:row->spinner_];
-    [row addSubview:row->text_];
-    [row->spinner_ setAccessibilityElement:NO];
-    return row;
+    return [[[self alloc] initWithFrame:NSZeroRect] autorelease];
+}
+
+- (instancetype)initWithFrame:(NSRect)frame {
+    self = [super initWithFrame:frame];
+    if (self != nil) {
+        spinner_ = kelmar::makeSpinner();
+        text_ = [KelmarTextLabel labelWithStyle:kelmar::TextStyle::body
+                                           tone:kelmar::TextTone::secondary];
+        [self addSubview:spinner_];
+        [self addSubview:text_];
+        [spinner_ setAccessibilityElement:NO];
+    }
+    return self;
 }
 
 - (void)render:(const std::optional<kelmar::Busy>&)busy {

@@ -6,14 +6,20 @@
 @implementation KelmarCalloutBox
 
 + (instancetype)box {
-    KelmarCalloutBox* const box = [[[self alloc] initWithFrame:NSZeroRect] autorelease];
-    box->card_ = [KelmarCardView card];
-    box->note_ = [KelmarNoteRow rowWithSymbolSize:kelmar::Metrics::rowSymbol
-                                            style:kelmar::TextStyle::body
-                                             tone:kelmar::TextTone::primary];
-    [box addSubview:box->card_];
-    [box->card_ addSubview:box->note_];
-    return box;
+    return [[[self alloc] initWithFrame:NSZeroRect] autorelease];
+}
+
+- (instancetype)initWithFrame:(NSRect)frame {
+    self = [super initWithFrame:frame];
+    if (self != nil) {
+        card_ = [KelmarCardView card];
+        note_ = [KelmarNoteRow rowWithSymbolSize:kelmar::Metrics::rowSymbol
+                                           style:kelmar::TextStyle::body
+                                            tone:kelmar::TextTone::primary];
+        [self addSubview:card_];
+        [card_ addSubview:note_];
+    }
+    return self;
 }
 
 - (void)render:(const kelmar::Callout&)callout {

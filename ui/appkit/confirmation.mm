@@ -13,16 +13,23 @@
     NSButton* button_;
 }
 
+- (instancetype)initForButton:(NSButton*)button;
 + (instancetype)keyForButton:(NSButton*)button;
 
 @end
 
 @implementation KelmarEscapeKey
 
+- (instancetype)initForButton:(NSButton*)button {
+    self = [super initWithFrame:NSZeroRect];
+    if (self != nil) {
+        button_ = button;
+    }
+    return self;
+}
+
 + (instancetype)keyForButton:(NSButton*)button {
-    KelmarEscapeKey* const key = [[[self alloc] initWithFrame:NSZeroRect] autorelease];
-    key->button_ = button;
-    return key;
+    return [[[self alloc] initForButton:button] autorelease];
 }
 
 - (BOOL)performKeyEquivalent:(NSEvent*)event {

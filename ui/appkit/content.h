@@ -20,6 +20,7 @@ struct ContentBlocks;
 }
 
 /// `actions` outlive the view.
+- (instancetype)initWithActions:(const kelmar::WindowActions*)actions frame:(NSRect)frame;
 + (instancetype)viewWithActions:(const kelmar::WindowActions*)actions frame:(NSRect)frame;
 
 - (void)render:(const kelmar::Content&)content;

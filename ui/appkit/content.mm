@@ -99,17 +99,23 @@ void renderContent(KelmarContentView* view, const FinishedContent& content) {
 @implementation KelmarContentView
 
 + (instancetype)viewWithActions:(const kelmar::WindowActions*)actions frame:(NSRect)frame {
-    KelmarContentView* const view = [[[self alloc] initWithFrame:frame] autorelease];
-    view->actions_ = actions;
-    view->blocks_ = new kelmar::ContentBlocks;
-    view->column_ = [[[KelmarFlippedView alloc] initWithFrame:[view bounds]] autorelease];
-    [view setDrawsBackground:NO];
-    [view setBorderType:NSNoBorder];
-    [view setHasVerticalScroller:YES];
-    [view setHasHorizontalScroller:NO];
-    [view setAutohidesScrollers:YES];
-    [view setDocumentView:view->column_];
-    return view;
+    return [[[self alloc] initWithActions:actions frame:frame] autorelease];
+}
+
+- (instancetype)initWithActions:(const kelmar::WindowActions*)actions frame:(NSRect)frame {
+    self = [super initWithFrame:frame];
+    if (self != nil) {
+        actions_ = actions;
+        blocks_ = new kelmar::ContentBlocks;
+        column_ = [[[KelmarFlippedView alloc] initWithFrame:[self bounds]] autorelease];
+        [self setDrawsBackground:NO];
+        [self setBorderType:NSNoBorder];
+        [self setHasVerticalScroller:YES];
+        [self setHasHorizontalScroller:NO];
+        [self setAutohidesScrollers:YES];
+        [self setDocumentView:column_];
+    }
+    return self;
 }
 
 - (void)dealloc {

@@ -16,6 +16,7 @@
 }
 
 /// `actions` outlive the section.
+- (instancetype)initWithActions:(const kelmar::WindowActions*)actions;
 + (instancetype)sectionWithActions:(const kelmar::WindowActions*)actions;
 
 - (void)render:(const kelmar::DataSection&)section;

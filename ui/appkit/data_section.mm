@@ -11,26 +11,32 @@
 @implementation KelmarDataSection
 
 + (instancetype)sectionWithActions:(const kelmar::WindowActions*)actions {
-    KelmarDataSection* const section = [self section];
-    section->actions_ = actions;
-    section->lists_ = [[NSMutableArray alloc] init];
-    section->label_ = [KelmarTextLabel labelWithStyle:kelmar::TextStyle::body
-                                                 tone:kelmar::TextTone::primary];
-    section->total_ = [KelmarSizeLabel label];
-    section->switch_ = [[[NSSwitch alloc] initWithFrame:NSZeroRect] autorelease];
-    [section->switch_ sizeToFit];
-    [section->switch_ setTarget:section];
-    [section->switch_ setAction:@selector(toggle:)];
-    section->line_ = [KelmarTextLabel labelWithStyle:kelmar::TextStyle::callout
-                                                tone:kelmar::TextTone::secondary];
-    section->folders_ = [KelmarPushButton buttonWithActions:actions];
-    KelmarCardView* const card = [section card];
-    [card addSubview:section->label_];
-    [card addSubview:section->total_];
-    [card addSubview:section->switch_];
-    [card addSubview:section->line_];
-    [card addSubview:section->folders_];
-    return section;
+    return [[[self alloc] initWithActions:actions] autorelease];
+}
+
+- (instancetype)initWithActions:(const kelmar::WindowActions*)actions {
+    self = [super initWithFrame:NSZeroRect];
+    if (self != nil) {
+        actions_ = actions;
+        lists_ = [[NSMutableArray alloc] init];
+        label_ = [KelmarTextLabel labelWithStyle:kelmar::TextStyle::body
+                                            tone:kelmar::TextTone::primary];
+        total_ = [KelmarSizeLabel label];
+        switch_ = [[[NSSwitch alloc] initWithFrame:NSZeroRect] autorelease];
+        [switch_ sizeToFit];
+        [switch_ setTarget:self];
+        [switch_ setAction:@selector(toggle:)];
+        line_ = [KelmarTextLabel labelWithStyle:kelmar::TextStyle::callout
+                                           tone:kelmar::TextTone::secondary];
+        folders_ = [KelmarPushButton buttonWithActions:actions];
+        KelmarCardView* const card = [self card];
+        [card addSubview:label_];
+        [card addSubview:total_];
+        [card addSubview:switch_];
+        [card addSubview:line_];
+        [card addSubview:folders_];
+    }
+    return self;
 }
 
 - (void)dealloc {

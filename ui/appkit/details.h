@@ -16,6 +16,7 @@
 }
 
 /// `actions` outlive the view.
+- (instancetype)initWithActions:(const kelmar::WindowActions*)actions;
 + (instancetype)viewWithActions:(const kelmar::WindowActions*)actions;
 
 - (void)render:(const kelmar::Details&)details;

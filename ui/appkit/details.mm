@@ -8,31 +8,37 @@
 
 @implementation KelmarDetailsView
 
-/// The triangle turns by itself; its text beside it presses it.
 + (instancetype)viewWithActions:(const kelmar::WindowActions*)actions {
-    KelmarDetailsView* const view = [[[self alloc] initWithFrame:NSZeroRect] autorelease];
-    view->actions_ = actions;
-    view->triangle_ = [[[NSButton alloc] initWithFrame:NSZeroRect] autorelease];
-    [view->triangle_ setBezelStyle:NSBezelStyleDisclosure];
-    [view->triangle_ setButtonType:NSButtonTypePushOnPushOff];
-    [view->triangle_ setTitle:@""];
-    [view->triangle_ sizeToFit];
-    view->label_ = [[[NSButton alloc] initWithFrame:NSZeroRect] autorelease];
-    [view->label_ setBordered:NO];
-    [view->label_ setButtonType:NSButtonTypeMomentaryChange];
-    [view->label_ setRefusesFirstResponder:YES];
-    // One control for those who can't see: the triangle, which has the text for its name.
-    [view->label_ setAccessibilityElement:NO];
-    view->log_ = [KelmarLogView log];
-    view->card_ = [KelmarCardView card];
-    for (NSButton* button in @[ view->triangle_, view->label_ ]) {
-        [button setTarget:view];
-        [button setAction:@selector(toggle:)];
-        [view addSubview:button];
+    return [[[self alloc] initWithActions:actions] autorelease];
+}
+
+/// The triangle turns by itself; its text beside it presses it.
+- (instancetype)initWithActions:(const kelmar::WindowActions*)actions {
+    self = [super initWithFrame:NSZeroRect];
+    if (self != nil) {
+        actions_ = actions;
+        triangle_ = [[[NSButton alloc] initWithFrame:NSZeroRect] autorelease];
+        [triangle_ setBezelStyle:NSBezelStyleDisclosure];
+        [triangle_ setButtonType:NSButtonTypePushOnPushOff];
+        [triangle_ setTitle:@""];
+        [triangle_ sizeToFit];
+        label_ = [[[NSButton alloc] initWithFrame:NSZeroRect] autorelease];
+        [label_ setBordered:NO];
+        [label_ setButtonType:NSButtonTypeMomentaryChange];
+        [label_ setRefusesFirstResponder:YES];
+        // One control for those who can't see: the triangle, which has the text for its name.
+        [label_ setAccessibilityElement:NO];
+        log_ = [KelmarLogView log];
+        card_ = [KelmarCardView card];
+        for (NSButton* button in @[ triangle_, label_ ]) {
+            [button setTarget:self];
+            [button setAction:@selector(toggle:)];
+            [self addSubview:button];
+        }
+        [self addSubview:card_];
+        [card_ addSubview:log_];
     }
-    [view addSubview:view->card_];
-    [view->card_ addSubview:view->log_];
-    return view;
+    return self;
 }
 
 - (void)dealloc {

@@ -14,6 +14,7 @@
 }
 
 /// `actions` outlive the row.
+- (instancetype)initWithActions:(const kelmar::WindowActions*)actions;
 + (instancetype)rowWithActions:(const kelmar::WindowActions*)actions;
 
 - (void)render:(const kelmar::FolderRow&)row;
@@ -29,6 +30,8 @@
     NSMutableArray* rows_;
 }
 
+/// `actions` outlive the list.
+- (instancetype)initWithActions:(const kelmar::WindowActions*)actions;
 + (instancetype)listWithActions:(const kelmar::WindowActions*)actions;
 
 - (void)render:(const kelmar::FolderList&)list;

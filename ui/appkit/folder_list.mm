@@ -11,20 +11,26 @@
 @implementation KelmarFolderRow
 
 + (instancetype)rowWithActions:(const kelmar::WindowActions*)actions {
-    KelmarFolderRow* const row = [[[self alloc] initWithFrame:NSZeroRect] autorelease];
-    row->actions_ = actions;
-    row->path_ = new std::string;
-    row->check_ = [[[NSButton alloc] initWithFrame:NSZeroRect] autorelease];
-    [row->check_ setButtonType:NSButtonTypeSwitch];
-    [row->check_ setTarget:row];
-    [row->check_ setAction:@selector(toggle:)];
-    row->summary_ = [KelmarTextLabel lineWithStyle:kelmar::TextStyle::callout
-                                              tone:kelmar::TextTone::secondary];
-    row->size_ = [KelmarSizeLabel label];
-    [row addSubview:row->check_];
-    [row addSubview:row->summary_];
-    [row addSubview:row->size_];
-    return row;
+    return [[[self alloc] initWithActions:actions] autorelease];
+}
+
+- (instancetype)initWithActions:(const kelmar::WindowActions*)actions {
+    self = [super initWithFrame:NSZeroRect];
+    if (self != nil) {
+        actions_ = actions;
+        path_ = new std::string;
+        check_ = [[[NSButton alloc] initWithFrame:NSZeroRect] autorelease];
+        [check_ setButtonType:NSButtonTypeSwitch];
+        [check_ setTarget:self];
+        [check_ setAction:@selector(toggle:)];
+        summary_ = [KelmarTextLabel lineWithStyle:kelmar::TextStyle::callout
+                                             tone:kelmar::TextTone::secondary];
+        size_ = [KelmarSizeLabel label];
+        [self addSubview:check_];
+        [self addSubview:summary_];
+        [self addSubview:size_];
+    }
+    return self;
 }
 
 - (void)dealloc {
@@ -79,18 +85,24 @@
 @implementation KelmarFolderList
 
 + (instancetype)listWithActions:(const kelmar::WindowActions*)actions {
-    KelmarFolderList* const list = [[[self alloc] initWithFrame:NSZeroRect] autorelease];
-    list->actions_ = actions;
-    list->rows_ = [[NSMutableArray alloc] init];
-    list->divider_ = [KelmarHairline line];
-    list->heading_ = [KelmarTextLabel labelWithStyle:kelmar::TextStyle::callout
-                                                tone:kelmar::TextTone::secondary];
-    list->others_ = [KelmarTextLabel labelWithStyle:kelmar::TextStyle::callout
-                                               tone:kelmar::TextTone::secondary];
-    [list addSubview:list->divider_];
-    [list addSubview:list->heading_];
-    [list addSubview:list->others_];
-    return list;
+    return [[[self alloc] initWithActions:actions] autorelease];
+}
+
+- (instancetype)initWithActions:(const kelmar::WindowActions*)actions {
+    self = [super initWithFrame:NSZeroRect];
+    if (self != nil) {
+        actions_ = actions;
+        rows_ = [[NSMutableArray alloc] init];
+        divider_ = [KelmarHairline line];
+        heading_ = [KelmarTextLabel labelWithStyle:kelmar::TextStyle::callout
+                                              tone:kelmar::TextTone::secondary];
+        others_ = [KelmarTextLabel labelWithStyle:kelmar::TextStyle::callout
+                                             tone:kelmar::TextTone::secondary];
+        [self addSubview:divider_];
+        [self addSubview:heading_];
+        [self addSubview:others_];
+    }
+    return self;
 }
 
 - (void)dealloc {

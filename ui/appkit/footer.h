@@ -14,6 +14,7 @@
 }
 
 /// `actions` outlive the view.
+- (instancetype)initWithActions:(const kelmar::WindowActions*)actions;
 + (instancetype)footerWithActions:(const kelmar::WindowActions*)actions;
 
 - (void)render:(const kelmar::Footer&)footer;

@@ -10,13 +10,19 @@
 @implementation KelmarFooterView
 
 + (instancetype)footerWithActions:(const kelmar::WindowActions*)actions {
-    KelmarFooterView* const footer = [[[self alloc] initWithFrame:NSZeroRect] autorelease];
-    footer->actions_ = actions;
-    footer->notes_ = [[NSMutableArray alloc] init];
-    footer->buttons_ = [[NSMutableArray alloc] init];
-    footer->busy_ = [KelmarBusyRow row];
-    [footer addSubview:footer->busy_];
-    return footer;
+    return [[[self alloc] initWithActions:actions] autorelease];
+}
+
+- (instancetype)initWithActions:(const kelmar::WindowActions*)actions {
+    self = [super initWithFrame:NSZeroRect];
+    if (self != nil) {
+        actions_ = actions;
+        notes_ = [[NSMutableArray alloc] init];
+        buttons_ = [[NSMutableArray alloc] init];
+        busy_ = [KelmarBusyRow row];
+        [self addSubview:busy_];
+    }
+    return self;
 }
 
 - (void)dealloc {

@@ -9,18 +9,24 @@
 @implementation KelmarFoundRow
 
 + (instancetype)row {
-    KelmarFoundRow* const row = [[[self alloc] initWithFrame:NSZeroRect] autorelease];
-    row->divider_ = [KelmarHairline line];
-    row->icon_ = [KelmarIconView icon];
-    row->title_ = [KelmarTextLabel labelWithStyle:kelmar::TextStyle::body
-                                             tone:kelmar::TextTone::primary];
-    row->detail_ = [KelmarTextLabel labelWithStyle:kelmar::TextStyle::callout
-                                              tone:kelmar::TextTone::secondary];
-    [row addSubview:row->divider_];
-    [row addSubview:row->icon_];
-    [row addSubview:row->title_];
-    [row addSubview:row->detail_];
-    return row;
+    return [[[self alloc] initWithFrame:NSZeroRect] autorelease];
+}
+
+- (instancetype)initWithFrame:(NSRect)frame {
+    self = [super initWithFrame:frame];
+    if (self != nil) {
+        divider_ = [KelmarHairline line];
+        icon_ = [KelmarIconView icon];
+        title_ = [KelmarTextLabel labelWithStyle:kelmar::TextStyle::body
+                                            tone:kelmar::TextTone::primary];
+        detail_ = [KelmarTextLabel labelWithStyle:kelmar::TextStyle::callout
+                                             tone:kelmar::TextTone::secondary];
+        [self addSubview:divider_];
+        [self addSubview:icon_];
+        [self addSubview:title_];
+        [self addSubview:detail_];
+    }
+    return self;
 }
 
 - (void)setFirst:(BOOL)first {
@@ -54,15 +60,20 @@
 
 @implementation KelmarFoundSection
 
+- (instancetype)initWithFrame:(NSRect)frame {
+    self = [super initWithFrame:frame];
+    if (self != nil) {
+        rows_ = [[NSMutableArray alloc] init];
+    }
+    return self;
+}
+
 - (void)dealloc {
     [rows_ release];
     [super dealloc];
 }
 
 - (void)render:(const kelmar::FoundSection&)section {
-    if (rows_ == nil) {
-        rows_ = [[NSMutableArray alloc] init];
-    }
     [self showTitle:section.title.text];
     kelmar::renderRows<KelmarFoundRow>(
         [self card], rows_, section.rows, [] { return [KelmarFoundRow row]; },

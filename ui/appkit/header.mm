@@ -8,17 +8,23 @@
 @implementation KelmarHeaderView
 
 + (instancetype)header {
-    KelmarHeaderView* const header = [[[self alloc] initWithFrame:NSZeroRect] autorelease];
-    header->icon_ = [KelmarIconView icon];
-    [header->icon_ showApplicationIcon];
-    header->title_ = [KelmarTextLabel labelWithStyle:kelmar::TextStyle::title
-                                                tone:kelmar::TextTone::primary];
-    header->subtitle_ = [KelmarTextLabel labelWithStyle:kelmar::TextStyle::body
-                                                   tone:kelmar::TextTone::secondary];
-    [header addSubview:header->icon_];
-    [header addSubview:header->title_];
-    [header addSubview:header->subtitle_];
-    return header;
+    return [[[self alloc] initWithFrame:NSZeroRect] autorelease];
+}
+
+- (instancetype)initWithFrame:(NSRect)frame {
+    self = [super initWithFrame:frame];
+    if (self != nil) {
+        icon_ = [KelmarIconView icon];
+        [icon_ showApplicationIcon];
+        title_ = [KelmarTextLabel labelWithStyle:kelmar::TextStyle::title
+                                            tone:kelmar::TextTone::primary];
+        subtitle_ = [KelmarTextLabel labelWithStyle:kelmar::TextStyle::body
+                                               tone:kelmar::TextTone::secondary];
+        [self addSubview:icon_];
+        [self addSubview:title_];
+        [self addSubview:subtitle_];
+    }
+    return self;
 }
 
 - (void)render:(const kelmar::Header&)header announced:(BOOL)announced {

@@ -6,12 +6,18 @@
 @implementation KelmarIconView
 
 + (instancetype)icon {
-    KelmarIconView* const view = [[[self alloc] initWithFrame:NSZeroRect] autorelease];
-    [view setImageScaling:NSImageScaleProportionallyDown];
-    [view setEditable:NO];
-    [view setRefusesFirstResponder:YES]; // nor is it a stop for the keyboard
-    [view setAccessibilityElement:NO];
-    return view;
+    return [[[self alloc] initWithFrame:NSZeroRect] autorelease];
+}
+
+- (instancetype)initWithFrame:(NSRect)frame {
+    self = [super initWithFrame:frame];
+    if (self != nil) {
+        [self setImageScaling:NSImageScaleProportionallyDown];
+        [self setEditable:NO];
+        [self setRefusesFirstResponder:YES]; // nor is it a stop for the keyboard
+        [self setAccessibilityElement:NO];
+    }
+    return self;
 }
 
 - (void)dealloc {

@@ -7,6 +7,8 @@ namespace kelmar {
 namespace {
 
 constexpr CGFloat unlimited = 10'000'000;
+/// Until the view is placed.
+constexpr NSRect initialFrame{{0, 0}, {100, 100}};
 
 NSTextView* makeTextView(NSSize size) {
     NSTextView* const text =
@@ -44,17 +46,22 @@ NSAttributedString* recordText(const std::string& text) {
 @implementation KelmarLogView
 
 + (instancetype)log {
-    KelmarLogView* const view =
-        [[[self alloc] initWithFrame:NSMakeRect(0, 0, 100, 100)] autorelease];
-    view->shown_ = new kelmar::LogLines;
-    view->text_ = kelmar::makeTextView([view contentSize]);
-    [view setDrawsBackground:NO];
-    [view setBorderType:NSNoBorder];
-    [view setHasVerticalScroller:YES];
-    [view setHasHorizontalScroller:NO];
-    [view setAutohidesScrollers:YES];
-    [view setDocumentView:view->text_];
-    return view;
+    return [[[self alloc] initWithFrame:kelmar::initialFrame] autorelease];
+}
+
+- (instancetype)initWithFrame:(NSRect)frame {
+    self = [super initWithFrame:frame];
+    if (self != nil) {
+        shown_ = new kelmar::LogLines;
+        text_ = kelmar::makeTextView([self contentSize]);
+        [self setDrawsBackground:NO];
+        [self setBorderType:NSNoBorder];
+        [self setHasVerticalScroller:YES];
+        [self setHasHorizontalScroller:NO];
+        [self setAutohidesScrollers:YES];
+        [self setDocumentView:text_];
+    }
+    return self;
 }
 
 - (void)dealloc {

@@ -11,6 +11,9 @@
     CGFloat symbolSize_;
 }
 
+- (instancetype)initWithSymbolSize:(CGFloat)size
+                             style:(kelmar::TextStyle)style
+                              tone:(kelmar::TextTone)tone;
 + (instancetype)rowWithSymbolSize:(CGFloat)size
                             style:(kelmar::TextStyle)style
                              tone:(kelmar::TextTone)tone;

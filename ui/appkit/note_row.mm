@@ -10,13 +10,21 @@
 + (instancetype)rowWithSymbolSize:(CGFloat)size
                             style:(kelmar::TextStyle)style
                              tone:(kelmar::TextTone)tone {
-    KelmarNoteRow* const row = [[[self alloc] initWithFrame:NSZeroRect] autorelease];
-    row->symbolSize_ = size;
-    row->icon_ = [KelmarIconView icon];
-    row->text_ = [KelmarTextLabel labelWithStyle:style tone:tone];
-    [row addSubview:row->icon_];
-    [row addSubview:row->text_];
-    return row;
+    return [[[self alloc] initWithSymbolSize:size style:style tone:tone] autorelease];
+}
+
+- (instancetype)initWithSymbolSize:(CGFloat)size
+                             style:(kelmar::TextStyle)style
+                              tone:(kelmar::TextTone)tone {
+    self = [super initWithFrame:NSZeroRect];
+    if (self != nil) {
+        symbolSize_ = size;
+        icon_ = [KelmarIconView icon];
+        text_ = [KelmarTextLabel labelWithStyle:style tone:tone];
+        [self addSubview:icon_];
+        [self addSubview:text_];
+    }
+    return self;
 }
 
 - (void)showSymbol:(const std::string&)symbol

@@ -17,6 +17,7 @@
 }
 
 /// `actions` outlive the view.
+- (instancetype)initWithActions:(const kelmar::WindowActions*)actions frame:(NSRect)frame;
 + (instancetype)viewWithActions:(const kelmar::WindowActions*)actions frame:(NSRect)frame;
 
 /// Everything of the page but the confirmation, which is a sheet.

@@ -3,19 +3,25 @@
 @implementation KelmarPageView
 
 + (instancetype)viewWithActions:(const kelmar::WindowActions*)actions frame:(NSRect)frame {
-    KelmarPageView* const view = [[[self alloc] initWithFrame:frame] autorelease];
-    view->header_ = [KelmarHeaderView header];
-    view->upper_ = [KelmarHairline line];
-    view->content_ = [KelmarContentView viewWithActions:actions frame:[view bounds]];
-    view->lower_ = [KelmarHairline line];
-    view->footer_ = [KelmarFooterView footerWithActions:actions];
-    // In reading order, which is also the order of the keyboard's focus.
-    [view addSubview:view->header_];
-    [view addSubview:view->upper_];
-    [view addSubview:view->content_];
-    [view addSubview:view->lower_];
-    [view addSubview:view->footer_];
-    return view;
+    return [[[self alloc] initWithActions:actions frame:frame] autorelease];
+}
+
+- (instancetype)initWithActions:(const kelmar::WindowActions*)actions frame:(NSRect)frame {
+    self = [super initWithFrame:frame];
+    if (self != nil) {
+        header_ = [KelmarHeaderView header];
+        upper_ = [KelmarHairline line];
+        content_ = [KelmarContentView viewWithActions:actions frame:[self bounds]];
+        lower_ = [KelmarHairline line];
+        footer_ = [KelmarFooterView footerWithActions:actions];
+        // In reading order, which is also the order of the keyboard's focus.
+        [self addSubview:header_];
+        [self addSubview:upper_];
+        [self addSubview:content_];
+        [self addSubview:lower_];
+        [self addSubview:footer_];
+    }
+    return self;
 }
 
 - (void)dealloc {

@@ -3,11 +3,17 @@
 @implementation KelmarParagraph
 
 + (instancetype)paragraph {
-    KelmarParagraph* const paragraph = [[[self alloc] initWithFrame:NSZeroRect] autorelease];
-    paragraph->text_ = [KelmarTextLabel labelWithStyle:kelmar::TextStyle::body
-                                                  tone:kelmar::TextTone::primary];
-    [paragraph addSubview:paragraph->text_];
-    return paragraph;
+    return [[[self alloc] initWithFrame:NSZeroRect] autorelease];
+}
+
+- (instancetype)initWithFrame:(NSRect)frame {
+    self = [super initWithFrame:frame];
+    if (self != nil) {
+        text_ = [KelmarTextLabel labelWithStyle:kelmar::TextStyle::body
+                                           tone:kelmar::TextTone::primary];
+        [self addSubview:text_];
+    }
+    return self;
 }
 
 - (void)showText:(const std::string&)text {

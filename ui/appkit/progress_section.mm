@@ -10,15 +10,21 @@
 @implementation KelmarProgressRow
 
 + (instancetype)row {
-    KelmarProgressRow* const row = [[[self alloc] initWithFrame:NSZeroRect] autorelease];
-    row->icon_ = [KelmarIconView icon];
-    row->spinner_ = kelmar::makeSpinner();
-    row->title_ = [KelmarTextLabel labelWithStyle:kelmar::TextStyle::body
-                                             tone:kelmar::TextTone::primary];
-    [row addSubview:row->icon_];
-    [row addSubview:row->spinner_];
-    [row addSubview:row->title_];
-    return row;
+    return [[[self alloc] initWithFrame:NSZeroRect] autorelease];
+}
+
+- (instancetype)initWithFrame:(NSRect)frame {
+    self = [super initWithFrame:frame];
+    if (self != nil) {
+        icon_ = [KelmarIconView icon];
+        spinner_ = kelmar::makeSpinner();
+        title_ = [KelmarTextLabel labelWithStyle:kelmar::TextStyle::body
+                                            tone:kelmar::TextTone::primary];
+        [self addSubview:icon_];
+        [self addSubview:spinner_];
+        [self addSubview:title_];
+    }
+    return self;
 }
 
 - (void)render:(const kelmar::ProgressRow&)row {
@@ -52,19 +58,23 @@
 
 @implementation KelmarProgressSection
 
+- (instancetype)initWithFrame:(NSRect)frame {
+    self = [super initWithFrame:frame];
+    if (self != nil) {
+        rows_ = [[NSMutableArray alloc] init];
+        detail_ = [KelmarTextLabel labelWithStyle:kelmar::TextStyle::callout
+                                             tone:kelmar::TextTone::secondary];
+        [[self card] addSubview:detail_];
+    }
+    return self;
+}
+
 - (void)dealloc {
     [rows_ release];
     [super dealloc];
 }
 
 - (void)render:(const kelmar::WorkingContent&)content {
-    if (rows_ == nil) {
-        rows_ = [[NSMutableArray alloc] init];
-        detail_ = [KelmarTextLabel labelWithStyle:kelmar::TextStyle::callout
-                                             tone:kelmar::TextTone::secondary];
-        [[self card] addSubview:detail_];
-        [self showTitle:""];
-    }
     kelmar::renderRows<KelmarProgressRow>(
         [self card], rows_, content.stages, [] { return [KelmarProgressRow row]; },
         [](KelmarProgressRow* row, const kelmar::ProgressRow& record) { [row render:record]; });

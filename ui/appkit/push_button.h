@@ -12,6 +12,7 @@
 }
 
 /// `actions` outlive the button.
+- (instancetype)initWithActions:(const kelmar::WindowActions*)actions;
 + (instancetype)buttonWithActions:(const kelmar::WindowActions*)actions;
 
 - (void)render:(const kelmar::Button&)button;

@@ -23,13 +23,19 @@ NSString* keyEquivalentOf(ButtonKey key) {
 @implementation KelmarPushButton
 
 + (instancetype)buttonWithActions:(const kelmar::WindowActions*)actions {
-    KelmarPushButton* const button = [[[self alloc] initWithFrame:NSZeroRect] autorelease];
-    button->actions_ = actions;
-    [button setBezelStyle:NSBezelStyleRounded];
-    [button setButtonType:NSButtonTypeMomentaryPushIn];
-    [button setTarget:button];
-    [button setAction:@selector(press:)];
-    return button;
+    return [[[self alloc] initWithActions:actions] autorelease];
+}
+
+- (instancetype)initWithActions:(const kelmar::WindowActions*)actions {
+    self = [super initWithFrame:NSZeroRect];
+    if (self != nil) {
+        actions_ = actions;
+        [self setBezelStyle:NSBezelStyleRounded];
+        [self setButtonType:NSButtonTypeMomentaryPushIn];
+        [self setTarget:self];
+        [self setAction:@selector(press:)];
+    }
+    return self;
 }
 
 - (void)render:(const kelmar::Button&)button {

@@ -6,16 +6,20 @@
 
 @implementation KelmarSummarySection
 
+- (instancetype)initWithFrame:(NSRect)frame {
+    self = [super initWithFrame:frame];
+    if (self != nil) {
+        rows_ = [[NSMutableArray alloc] init];
+    }
+    return self;
+}
+
 - (void)dealloc {
     [rows_ release];
     [super dealloc];
 }
 
 - (void)render:(const std::vector<kelmar::SummaryRow>&)rows {
-    if (rows_ == nil) {
-        rows_ = [[NSMutableArray alloc] init];
-        [self showTitle:""];
-    }
     const auto make = [] {
         return [KelmarNoteRow rowWithSymbolSize:kelmar::Metrics::rowSymbol
                                           style:kelmar::TextStyle::body
@@ -40,16 +44,22 @@
 @implementation KelmarProblemRow
 
 + (instancetype)row {
-    KelmarProblemRow* const row = [[[self alloc] initWithFrame:NSZeroRect] autorelease];
-    row->divider_ = [KelmarHairline line];
-    row->path_ = [KelmarTextLabel labelWithStyle:kelmar::TextStyle::body
-                                            tone:kelmar::TextTone::primary];
-    row->reason_ = [KelmarTextLabel labelWithStyle:kelmar::TextStyle::callout
-                                              tone:kelmar::TextTone::secondary];
-    [row addSubview:row->divider_];
-    [row addSubview:row->path_];
-    [row addSubview:row->reason_];
-    return row;
+    return [[[self alloc] initWithFrame:NSZeroRect] autorelease];
+}
+
+- (instancetype)initWithFrame:(NSRect)frame {
+    self = [super initWithFrame:frame];
+    if (self != nil) {
+        divider_ = [KelmarHairline line];
+        path_ = [KelmarTextLabel labelWithStyle:kelmar::TextStyle::body
+                                           tone:kelmar::TextTone::primary];
+        reason_ = [KelmarTextLabel labelWithStyle:kelmar::TextStyle::callout
+                                             tone:kelmar::TextTone::secondary];
+        [self addSubview:divider_];
+        [self addSubview:path_];
+        [self addSubview:reason_];
+    }
+    return self;
 }
 
 - (void)setFirst:(BOOL)first {
@@ -73,15 +83,20 @@
 
 @implementation KelmarProblemsSection
 
+- (instancetype)initWithFrame:(NSRect)frame {
+    self = [super initWithFrame:frame];
+    if (self != nil) {
+        rows_ = [[NSMutableArray alloc] init];
+    }
+    return self;
+}
+
 - (void)dealloc {
     [rows_ release];
     [super dealloc];
 }
 
 - (void)render:(const kelmar::ProblemsSection&)section {
-    if (rows_ == nil) {
-        rows_ = [[NSMutableArray alloc] init];
-    }
     [self showTitle:section.title.text];
     kelmar::renderRows<KelmarProblemRow>(
         [self card], rows_, section.rows, [] { return [KelmarProblemRow row]; },

@@ -3,7 +3,8 @@
 #include "ui/appkit/card.h"
 #include "ui/appkit/text_label.h"
 
-/// A title and a card below it. Subclasses put their rows into the card.
+/// A card, with a title above it once it has been given one. Subclasses put their rows into the
+/// card.
 @interface KelmarSection : KelmarFlippedView {
     KelmarTextLabel* title_;
     KelmarCardView* card_;
@@ -13,7 +14,6 @@
 
 - (KelmarCardView*)card;
 
-/// The empty text for a section without a title.
 - (void)showTitle:(const std::string&)title;
 
 /// Places the card's subviews; answers the height that they take. Nothing is placed here.

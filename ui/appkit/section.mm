@@ -5,8 +5,7 @@
 @implementation KelmarSection
 
 + (instancetype)section {
-    KelmarSection* const section = [[[self alloc] initWithFrame:NSZeroRect] autorelease];
-    return section;
+    return [[[self alloc] initWithFrame:NSZeroRect] autorelease];
 }
 
 - (instancetype)initWithFrame:(NSRect)frame {
@@ -14,6 +13,7 @@
     if (self != nil) {
         title_ = [KelmarTextLabel labelWithStyle:kelmar::TextStyle::sectionTitle
                                             tone:kelmar::TextTone::primary];
+        [title_ setHidden:YES];
         card_ = [KelmarCardView card];
         [self addSubview:title_];
         [self addSubview:card_];
@@ -27,7 +27,7 @@
 
 - (void)showTitle:(const std::string&)title {
     [title_ showText:title];
-    [title_ setHidden:title.empty() ? YES : NO];
+    [title_ setHidden:NO];
 }
 
 - (CGFloat)layOutCardForWidth:(CGFloat)width {

@@ -4,11 +4,16 @@
 
 @implementation KelmarSizeLabel
 
+- (instancetype)init {
+    self = [super initWithStyle:kelmar::TextStyle::size tone:kelmar::TextTone::secondary wraps:NO];
+    if (self != nil) {
+        [self setAlignment:NSTextAlignmentRight];
+    }
+    return self;
+}
+
 + (instancetype)label {
-    KelmarSizeLabel* const label = [self lineWithStyle:kelmar::TextStyle::size
-                                                  tone:kelmar::TextTone::secondary];
-    [label setAlignment:NSTextAlignmentRight];
-    return label;
+    return [[[self alloc] init] autorelease];
 }
 
 - (void)render:(const kelmar::SizeText&)size {

@@ -27,6 +27,9 @@ enum class TextTone {
     CGFloat measuredHeight_;
 }
 
+- (instancetype)initWithStyle:(kelmar::TextStyle)style
+                         tone:(kelmar::TextTone)tone
+                        wraps:(BOOL)wraps;
 + (instancetype)labelWithStyle:(kelmar::TextStyle)style tone:(kelmar::TextTone)tone;
 + (instancetype)lineWithStyle:(kelmar::TextStyle)style tone:(kelmar::TextTone)tone;
 

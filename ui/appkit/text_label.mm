@@ -43,25 +43,31 @@ NSSize roundedUp(NSSize size) {
 
 @implementation KelmarTextLabel
 
+- (instancetype)initWithStyle:(kelmar::TextStyle)style
+                         tone:(kelmar::TextTone)tone
+                        wraps:(BOOL)wraps {
+    self = [super initWithFrame:NSZeroRect];
+    if (self != nil) {
+        [self setEditable:NO];
+        [self setSelectable:NO];
+        [self setBezeled:NO];
+        [self setBordered:NO];
+        [self setDrawsBackground:NO];
+        [self setFont:kelmar::fontOf(style)];
+        [self setTextColor:kelmar::colourOf(tone)];
+        [[self cell] setWraps:wraps];
+        [[self cell]
+            setLineBreakMode:wraps ? NSLineBreakByWordWrapping : NSLineBreakByTruncatingMiddle];
+    }
+    return self;
+}
+
 + (instancetype)labelWithStyle:(kelmar::TextStyle)style tone:(kelmar::TextTone)tone {
-    KelmarTextLabel* const label = [[[self alloc] initWithFrame:NSZeroRect] autorelease];
-    [label setEditable:NO];
-    [label setSelectable:NO];
-    [label setBezeled:NO];
-    [label setBordered:NO];
-    [label setDrawsBackground:NO];
-    [label setFont:kelmar::fontOf(style)];
-    [label setTextColor:kelmar::colourOf(tone)];
-    [[label cell] setWraps:YES];
-    [[label cell] setLineBreakMode:NSLineBreakByWordWrapping];
-    return label;
+    return [[[self alloc] initWithStyle:style tone:tone wraps:YES] autorelease];
 }
 
 + (instancetype)lineWithStyle:(kelmar::TextStyle)style tone:(kelmar::TextTone)tone {
-    KelmarTextLabel* const label = [self labelWithStyle:style tone:tone];
-    [[label cell] setWraps:NO];
-    [[label cell] setLineBreakMode:NSLineBreakByTruncatingMiddle];
-    return label;
+    return [[[self alloc] initWithStyle:style tone:tone wraps:NO] autorelease];
 }
 
 - (void)showText:(const std::string&)text {
