@@ -6,9 +6,9 @@
 #include "ui/appkit/dispatcher.hpp"
 #include "ui/appkit/from_toolkit.hpp"
 #include "ui/appkit/menu.h"
-#include "ui/appkit/metrics.hpp"
 #include "ui/appkit/page.h"
 #include "ui/appkit/run_loop_modes.h"
+#include "ui/look.hpp"
 
 namespace kelmar {
 
@@ -34,7 +34,7 @@ struct WindowState {
 namespace {
 
 NSWindow* makeWindow() {
-    const NSRect frame = NSMakeRect(0, 0, Metrics::windowWidth, Metrics::windowHeight);
+    const NSRect frame = NSMakeRect(0, 0, Look::windowWidth, Look::windowHeight);
     const NSWindowStyleMask style =
         NSWindowStyleMaskTitled | NSWindowStyleMaskClosable | NSWindowStyleMaskMiniaturizable;
     NSWindow* const window = [[NSWindow alloc] initWithContentRect:frame styleMask:style
@@ -97,7 +97,7 @@ NSWindow* makeWindow() {
 - (void)openWindow {
     state_->window = kelmar::Retained<NSWindow>::adopt(kelmar::makeWindow());
     NSWindow* const window = state_->window.get();
-    const NSSize size = NSMakeSize(kelmar::Metrics::windowWidth, kelmar::Metrics::windowHeight);
+    const NSSize size = NSMakeSize(kelmar::Look::windowWidth, kelmar::Look::windowHeight);
     state_->page = [KelmarPageView viewWithActions:&state_->actions
                                              frame:NSMakeRect(0, 0, size.width, size.height)];
     state_->sheet = kelmar::Retained<KelmarConfirmationSheet>::adopt(

@@ -1,7 +1,7 @@
 #include "ui/appkit/busy_row.h"
 
-#include "ui/appkit/metrics.hpp"
 #include "ui/appkit/spinner.h"
+#include "ui/look.hpp"
 
 #include <algorithm>
 
@@ -31,11 +31,12 @@
 }
 
 - (CGFloat)layOutForWidth:(CGFloat)width {
-    using namespace kelmar::Metrics;
-    const CGFloat text = spinner + partGap;
+    using namespace kelmar::Look;
+    const CGFloat text = rowSymbol + partGap;
     const CGFloat textHeight = [text_ heightForWidth:width - text];
-    const CGFloat height = std::max<CGFloat>(spinner, textHeight);
-    kelmar::setFrame(spinner_, NSMakeRect(0, (height - spinner) / 2, spinner, spinner));
+    const CGFloat height = std::max<CGFloat>(rowSymbol, textHeight);
+    const CGFloat inset = (rowSymbol - spinner) / 2.0;
+    kelmar::setFrame(spinner_, NSMakeRect(inset, (height - spinner) / 2, spinner, spinner));
     kelmar::place(text_, text, (height - textHeight) / 2, width - text);
     return height;
 }

@@ -1,7 +1,7 @@
 #include "ui/appkit/callout.h"
 
 #include "ui/appkit/colours.h"
-#include "ui/appkit/metrics.hpp"
+#include "ui/look.hpp"
 
 @implementation KelmarCalloutBox
 
@@ -13,7 +13,7 @@
     self = [super initWithFrame:frame];
     if (self != nil) {
         card_ = [KelmarCardView card];
-        note_ = [KelmarNoteRow rowWithSymbolSize:kelmar::Metrics::rowSymbol
+        note_ = [KelmarNoteRow rowWithSymbolSize:kelmar::Look::rowSymbol
                                            style:kelmar::TextStyle::body
                                             tone:kelmar::TextTone::primary];
         [self addSubview:card_];
@@ -28,7 +28,7 @@
 }
 
 - (CGFloat)layOutForWidth:(CGFloat)width {
-    using namespace kelmar::Metrics;
+    using namespace kelmar::Look;
     const CGFloat height =
         kelmar::place(note_, cardPadding, cardPadding, width - 2 * cardPadding) + cardPadding;
     kelmar::setFrame(card_, NSMakeRect(0, 0, width, height));

@@ -14,7 +14,7 @@
 
 @end
 
-/// A line of one point between two rows.
+/// A line between two rows, which fills its frame.
 @interface KelmarHairline : NSView
 
 + (instancetype)line;

@@ -1,6 +1,6 @@
 #include "ui/appkit/card.h"
 
-#include "ui/appkit/metrics.hpp"
+#include "ui/look.hpp"
 
 // Both draw with colours that are looked up while they draw, so that light and dark need nothing
 // else.
@@ -25,14 +25,15 @@
 
 - (void)drawRect:(NSRect)dirty {
     static_cast<void>(dirty);
-    const NSRect inside = NSInsetRect([self bounds], 0.5, 0.5);
-    NSBezierPath* const outline =
-        [NSBezierPath bezierPathWithRoundedRect:inside xRadius:kelmar::Metrics::cardRadius
-                                        yRadius:kelmar::Metrics::cardRadius];
-    NSColor* const ground =
-        tint_ != nil ? [tint_ colorWithAlphaComponent:0.1] : [NSColor controlBackgroundColor];
+    using namespace kelmar::Look;
+    constexpr CGFloat middle = hairline / 2.0; // of the line around the card
+    const NSRect inside = NSInsetRect([self bounds], middle, middle);
+    NSBezierPath* const outline = [NSBezierPath bezierPathWithRoundedRect:inside xRadius:cardRadius
+                                                                  yRadius:cardRadius];
+    NSColor* const ground = tint_ != nil ? [tint_ colorWithAlphaComponent:tintedGround]
+                                         : [NSColor controlBackgroundColor];
     NSColor* const edge =
-        tint_ != nil ? [tint_ colorWithAlphaComponent:0.35] : [NSColor separatorColor];
+        tint_ != nil ? [tint_ colorWithAlphaComponent:tintedEdge] : [NSColor separatorColor];
     [ground setFill];
     [outline fill];
     [edge setStroke];

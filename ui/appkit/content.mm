@@ -5,10 +5,10 @@
 #include "ui/appkit/data_section.h"
 #include "ui/appkit/details.h"
 #include "ui/appkit/found_section.h"
-#include "ui/appkit/metrics.hpp"
 #include "ui/appkit/paragraph.h"
 #include "ui/appkit/progress_section.h"
 #include "ui/appkit/result_sections.h"
+#include "ui/look.hpp"
 
 #include <algorithm>
 #include <array>
@@ -187,7 +187,7 @@ void renderContent(KelmarContentView* view, const FinishedContent& content) {
 /// The blocks that are shown, one below the other. The record of a run, unfolded, takes what is
 /// left of the page; otherwise the column is as high as it needs to be.
 - (void)layOutColumn {
-    using namespace kelmar::Metrics;
+    using namespace kelmar::Look;
     const NSSize room = [self contentSize];
     const CGFloat inside = [self frame].size.width - 2 * pageMargin;
     CGFloat below = 0;

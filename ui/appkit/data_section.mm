@@ -3,8 +3,8 @@
 #include "system/text/foundation_text_macos.hpp"
 #include "ui/appkit/folder_list.h"
 #include "ui/appkit/from_toolkit.hpp"
-#include "ui/appkit/metrics.hpp"
 #include "ui/appkit/row_list.h"
+#include "ui/look.hpp"
 
 #include <algorithm>
 
@@ -70,7 +70,7 @@
 }
 
 - (CGFloat)layOutCardForWidth:(CGFloat)width {
-    using namespace kelmar::Metrics;
+    using namespace kelmar::Look;
     const CGFloat inside = width - 2 * cardPadding;
     const NSSize toggle = [switch_ frame].size;
     const CGFloat totalWidth = [total_ naturalWidth];
@@ -85,8 +85,8 @@
                                          toggle.height));
     kelmar::setFrame(total_, NSMakeRect(right - toggle.width - partGap - totalWidth,
                                         centred(totalHeight), totalWidth, totalHeight));
-    CGFloat below = kelmar::place(line_, cardPadding, cardPadding + height + textGap,
-                                  inside - toggle.width - partGap);
+    CGFloat below = kelmar::place(line_, cardPadding, cardPadding + height + lineGap,
+                                  inside - toggle.width - columnGap);
     const NSSize button = [folders_ frame].size;
     kelmar::setFrame(folders_,
                      NSMakeRect(cardPadding, below + partGap, button.width, button.height));

@@ -2,7 +2,7 @@
 
 #include "system/text/foundation_text_macos.hpp"
 #include "ui/appkit/from_toolkit.hpp"
-#include "ui/appkit/metrics.hpp"
+#include "ui/look.hpp"
 
 #include <algorithm>
 
@@ -75,22 +75,23 @@
 }
 
 - (CGFloat)layOutForWidth:(CGFloat)width {
-    using namespace kelmar::Metrics;
+    using namespace kelmar::Look;
     const NSSize triangle = [triangle_ frame].size;
     const NSSize label = [label_ frame].size;
     const CGFloat height = std::max(triangle.height, label.height);
     kelmar::setFrame(
         triangle_, NSMakeRect(0, (height - triangle.height) / 2, triangle.width, triangle.height));
-    kelmar::setFrame(label_, NSMakeRect(triangle.width + textGap, (height - label.height) / 2,
+    kelmar::setFrame(label_, NSMakeRect(triangle.width + disclosureGap, (height - label.height) / 2,
                                         label.width, label.height));
     if ([card_ isHidden]) {
         return height;
     }
     const CGFloat top = height + partGap;
-    const CGFloat record = std::max<CGFloat>(recordHeight, room_ - top);
-    kelmar::setFrame(card_, NSMakeRect(0, top, width, record));
-    kelmar::setFrame(log_, NSMakeRect(2, 2, width - 4, record - 4));
-    return top + record;
+    const CGFloat card = std::max<CGFloat>(logHeight + 2 * logVerticalMargin, room_ - top);
+    kelmar::setFrame(card_, NSMakeRect(0, top, width, card));
+    kelmar::setFrame(log_, NSMakeRect(logSideMargin, logVerticalMargin, width - 2 * logSideMargin,
+                                      card - 2 * logVerticalMargin));
+    return top + card;
 }
 
 @end

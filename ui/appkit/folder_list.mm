@@ -1,10 +1,10 @@
 #include "ui/appkit/folder_list.h"
 
 #include "system/text/foundation_text_macos.hpp"
-#include "ui/appkit/from_toolkit.hpp"
-#include "ui/appkit/metrics.hpp"
-#include "ui/appkit/row_list.h"
 #include "system/text/harmless_text.hpp"
+#include "ui/appkit/from_toolkit.hpp"
+#include "ui/appkit/row_list.h"
+#include "ui/look.hpp"
 
 #include <algorithm>
 
@@ -63,7 +63,7 @@
 }
 
 - (CGFloat)layOutForWidth:(CGFloat)width {
-    using namespace kelmar::Metrics;
+    using namespace kelmar::Look;
     const NSSize check = [check_ frame].size;
     const CGFloat sizeWidth = [size_ naturalWidth];
     const CGFloat checkWidth = std::min(check.width, width - sizeWidth - partGap);
@@ -121,12 +121,14 @@
 }
 
 - (CGFloat)layOutForWidth:(CGFloat)width {
-    using namespace kelmar::Metrics;
+    using namespace kelmar::Look;
     const CGFloat inside = width - 2 * cardPadding;
-    kelmar::setFrame(divider_, NSMakeRect(0, 0, width, 1));
+    kelmar::setFrame(divider_, NSMakeRect(0, 0, width, hairline));
     CGFloat below = kelmar::place(heading_, cardPadding, cardPadding, inside);
+    CGFloat gap = partGap;
     for (KelmarFolderRow* row in rows_) {
-        below = kelmar::place(row, cardPadding, below + partGap, inside);
+        below = kelmar::place(row, cardPadding, below + gap, inside);
+        gap = lineGap;
     }
     if (![others_ isHidden]) {
         below = kelmar::place(others_, cardPadding, below + partGap, inside);

@@ -1,9 +1,9 @@
 #include "ui/appkit/footer.h"
 
-#include "ui/appkit/metrics.hpp"
 #include "ui/appkit/note_row.h"
 #include "ui/appkit/push_button.h"
 #include "ui/appkit/row_list.h"
+#include "ui/look.hpp"
 
 #include <algorithm>
 
@@ -33,7 +33,7 @@
 
 - (void)render:(const kelmar::Footer&)footer {
     const auto makeNote = [] {
-        return [KelmarNoteRow rowWithSymbolSize:kelmar::Metrics::noteSymbol
+        return [KelmarNoteRow rowWithSymbolSize:kelmar::Look::noteSymbol
                                           style:kelmar::TextStyle::callout
                                            tone:kelmar::TextTone::secondary];
     };
@@ -51,36 +51,35 @@
         [](KelmarPushButton* each, const kelmar::Button& button) { [each render:button]; });
 }
 
-/// Answers how far the buttons reach from the trailing side.
+/// Answers the x of the first button, or of the trailing margin if there is none.
 - (CGFloat)layOutButtonsForWidth:(CGFloat)width height:(CGFloat)height {
-    using namespace kelmar::Metrics;
-    constexpr CGFloat least = 80;
-    CGFloat right = width - pageMargin;
+    using namespace kelmar::Look;
+    CGFloat left = width - pageMargin;
+    CGFloat right = left;
     for (KelmarPushButton* button in [buttons_ reverseObjectEnumerator]) {
         const NSSize size = [button frame].size;
-        const CGFloat each = std::max(size.width, least);
-        kelmar::setFrame(button,
-                         NSMakeRect(right - each, (height - size.height) / 2, each, size.height));
-        right -= each + partGap;
+        const CGFloat each = std::max<CGFloat>(size.width, buttonWidth);
+        left = right - each;
+        kelmar::setFrame(button, NSMakeRect(left, (height - size.height) / 2, each, size.height));
+        right = left - buttonGap;
     }
-    return width - right;
+    return left;
 }
 
 - (CGFloat)layOutForWidth:(CGFloat)width {
-    using namespace kelmar::Metrics;
-    const CGFloat taken = [self layOutButtonsForWidth:width height:footerHeight];
-    const CGFloat inside = width - pageMargin - taken - partGap;
-    const CGFloat gap = partGap / 2;
-    CGFloat notes = -gap;
+    using namespace kelmar::Look;
+    const CGFloat buttons = [self layOutButtonsForWidth:width height:footerHeight];
+    const CGFloat inside = buttons - sectionGap - pageMargin;
+    CGFloat notes = -lineGap;
     for (KelmarNoteRow* note in notes_) {
-        notes += [note layOutForWidth:inside] + gap;
+        notes += [note layOutForWidth:inside] + lineGap;
     }
     const CGFloat busy = [busy_ layOutForWidth:inside];
     kelmar::setFrame(busy_, NSMakeRect(pageMargin, (footerHeight - busy) / 2, inside, busy));
-    const CGFloat height = std::max<CGFloat>(footerHeight, notes + 2 * cardPadding);
+    const CGFloat height = std::max<CGFloat>(footerHeight, notes + 2 * footerPadding);
     CGFloat below = (height - notes) / 2;
     for (KelmarNoteRow* note in notes_) {
-        below = kelmar::place(note, pageMargin, below, inside) + gap;
+        below = kelmar::place(note, pageMargin, below, inside) + lineGap;
     }
     if (height > footerHeight) {
         [self layOutButtonsForWidth:width height:height];

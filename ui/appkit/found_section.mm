@@ -1,7 +1,7 @@
 #include "ui/appkit/found_section.h"
 
-#include "ui/appkit/metrics.hpp"
 #include "ui/appkit/row_list.h"
+#include "ui/look.hpp"
 
 #include <algorithm>
 #include <variant>
@@ -36,7 +36,7 @@
 - (void)render:(const kelmar::FoundRow&)row {
     if (const auto* const symbol = std::get_if<kelmar::FoundRow::Symbol>(&row.icon)) {
         [icon_ showSymbol:symbol->name tint:kelmar::Tint::secondary
-                pointSize:kelmar::Metrics::rowSymbol];
+                pointSize:kelmar::Look::rowSymbol];
     } else {
         [icon_ showIconOfFile:std::get<kelmar::FoundRow::Image>(row.icon).path];
     }
@@ -45,10 +45,10 @@
 }
 
 - (CGFloat)layOutForWidth:(CGFloat)width {
-    using namespace kelmar::Metrics;
-    const CGFloat text = dividerIndent;
+    using namespace kelmar::Look;
+    const CGFloat text = foundTextIndent;
     const CGFloat textWidth = width - text - cardPadding;
-    kelmar::setFrame(divider_, NSMakeRect(dividerIndent, 0, width - dividerIndent, 1));
+    kelmar::setFrame(divider_, NSMakeRect(text, 0, width - text, hairline));
     CGFloat below = kelmar::place(title_, text, rowPadding, textWidth);
     below = kelmar::place(detail_, text, below + textGap, textWidth) + rowPadding;
     const CGFloat height = std::max<CGFloat>(below, rowIcon + 2 * rowPadding);

@@ -1,7 +1,7 @@
 #include "ui/appkit/header.h"
 
 #include "system/text/foundation_text_macos.hpp"
-#include "ui/appkit/metrics.hpp"
+#include "ui/look.hpp"
 
 #include <algorithm>
 
@@ -42,18 +42,18 @@
 }
 
 - (CGFloat)layOutForWidth:(CGFloat)width {
-    using namespace kelmar::Metrics;
+    using namespace kelmar::Look;
     const CGFloat text = pageMargin + headerIcon + sectionGap;
     const CGFloat textWidth = width - text - pageMargin;
     const CGFloat titleHeight = [title_ heightForWidth:textWidth];
-    const CGFloat texts = titleHeight + textGap * 2 + [subtitle_ heightForWidth:textWidth];
+    const CGFloat texts = titleHeight + lineGap + [subtitle_ heightForWidth:textWidth];
     // Room for a subtitle of two lines, so that the page below does not move from phase to phase.
     const CGFloat inside = std::max<CGFloat>(headerIcon + partGap, texts);
     const CGFloat height = inside + 2 * sectionGap;
     kelmar::setFrame(icon_,
                      NSMakeRect(pageMargin, (height - headerIcon) / 2, headerIcon, headerIcon));
     const CGFloat below = kelmar::place(title_, text, (height - texts) / 2, textWidth);
-    kelmar::place(subtitle_, text, below + textGap * 2, textWidth);
+    kelmar::place(subtitle_, text, below + lineGap, textWidth);
     return height;
 }
 

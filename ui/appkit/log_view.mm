@@ -1,12 +1,16 @@
 #include "ui/appkit/log_view.h"
 
 #include "system/text/foundation_text_macos.hpp"
+#include "ui/appkit/fonts.h"
+#include "ui/look.hpp"
 
 namespace kelmar {
 
 namespace {
 
 constexpr CGFloat unlimited = 10'000'000;
+/// What an NSTextContainer keeps free left and right of its lines by default.
+constexpr CGFloat lineFragmentPadding = 5;
 /// Until the view is placed.
 constexpr NSRect initialFrame{{0, 0}, {100, 100}};
 
@@ -22,7 +26,8 @@ NSTextView* makeTextView(NSSize size) {
     [text setAutoresizingMask:NSViewWidthSizable];
     [text setMinSize:NSMakeSize(0, 0)];
     [text setMaxSize:NSMakeSize(unlimited, unlimited)];
-    [text setTextContainerInset:NSMakeSize(6, 8)];
+    constexpr CGFloat sides = Look::logPadding - lineFragmentPadding;
+    [text setTextContainerInset:NSMakeSize(sides, Look::logPadding)];
     [[text textContainer] setWidthTracksTextView:YES];
     // Lines that nobody looks at are not laid out until somebody does.
     [[text layoutManager] setAllowsNonContiguousLayout:YES];
@@ -31,10 +36,8 @@ NSTextView* makeTextView(NSSize size) {
 
 NSAttributedString* recordText(const std::string& text) {
     NSDictionary* const attributes = [NSDictionary
-        dictionaryWithObjectsAndKeys:[NSFont monospacedSystemFontOfSize:11
-                                                                 weight:NSFontWeightRegular],
-                                     NSFontAttributeName, [NSColor textColor],
-                                     NSForegroundColorAttributeName, nil];
+        dictionaryWithObjectsAndKeys:fontOf(TextStyle::log), NSFontAttributeName,
+                                     [NSColor textColor], NSForegroundColorAttributeName, nil];
     return [[[NSAttributedString alloc] initWithString:foundationText(text)
                                             attributes:attributes] autorelease];
 }

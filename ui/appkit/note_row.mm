@@ -1,7 +1,7 @@
 #include "ui/appkit/note_row.h"
 
 #include "system/text/foundation_text_macos.hpp"
-#include "ui/appkit/metrics.hpp"
+#include "ui/look.hpp"
 
 #include <algorithm>
 
@@ -46,7 +46,7 @@
 }
 
 - (CGFloat)layOutForWidth:(CGFloat)width {
-    const CGFloat text = symbolSize_ + kelmar::Metrics::partGap;
+    const CGFloat text = symbolSize_ + kelmar::Look::partGap;
     const CGFloat textHeight = [text_ heightForWidth:width - text];
     const CGFloat height = std::max(symbolSize_, textHeight);
     // A single line stands at the symbol's middle, more of them begin beside it.

@@ -1,5 +1,7 @@
 #include "ui/appkit/page.h"
 
+#include "ui/look.hpp"
+
 @implementation KelmarPageView
 
 + (instancetype)viewWithActions:(const kelmar::WindowActions*)actions frame:(NSRect)frame {
@@ -31,14 +33,16 @@
 
 /// The content gets what header and footer leave.
 - (void)layOutAround {
+    using kelmar::Look::hairline;
     const NSSize size = [self bounds].size;
     const CGFloat top = kelmar::place(header_, 0, 0, size.width);
     const CGFloat footer = [footer_ layOutForWidth:size.width];
     const CGFloat bottom = size.height - footer;
     kelmar::setFrame(footer_, NSMakeRect(0, bottom, size.width, footer));
-    kelmar::setFrame(upper_, NSMakeRect(0, top, size.width, 1));
-    kelmar::setFrame(lower_, NSMakeRect(0, bottom - 1, size.width, 1));
-    kelmar::setFrame(content_, NSMakeRect(0, top + 1, size.width, bottom - top - 2));
+    kelmar::setFrame(upper_, NSMakeRect(0, top, size.width, hairline));
+    kelmar::setFrame(lower_, NSMakeRect(0, bottom - hairline, size.width, hairline));
+    kelmar::setFrame(content_,
+                     NSMakeRect(0, top + hairline, size.width, bottom - top - 2 * hairline));
 }
 
 - (void)render:(const kelmar::Page&)page {

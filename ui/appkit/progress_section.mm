@@ -1,9 +1,9 @@
 #include "ui/appkit/progress_section.h"
 
 #include "system/text/foundation_text_macos.hpp"
-#include "ui/appkit/metrics.hpp"
 #include "ui/appkit/row_list.h"
 #include "ui/appkit/spinner.h"
+#include "ui/look.hpp"
 
 #include <algorithm>
 
@@ -34,20 +34,19 @@
     if (running) {
         [spinner_ setAccessibilityLabel:kelmar::foundationText(row.icon.label)];
     } else {
-        [icon_ showSymbol:*row.icon.symbol tint:row.icon.tint
-                pointSize:kelmar::Metrics::noteSymbol];
+        [icon_ showSymbol:*row.icon.symbol tint:row.icon.tint pointSize:kelmar::Look::rowSymbol];
         [icon_ setMeaning:row.icon.label];
     }
     [title_ showText:row.title];
 }
 
 - (CGFloat)layOutForWidth:(CGFloat)width {
-    using namespace kelmar::Metrics;
-    const CGFloat text = rowSymbol + partGap;
+    using namespace kelmar::Look;
+    const CGFloat text = rowSymbol + columnGap;
     const CGFloat textHeight = [title_ heightForWidth:width - text];
     const CGFloat height = std::max<CGFloat>(rowSymbol, textHeight);
     const CGFloat middle = (height - rowSymbol) / 2;
-    const CGFloat inset = (rowSymbol - spinner) / 2;
+    const CGFloat inset = (rowSymbol - spinner) / 2.0;
     kelmar::setFrame(icon_, NSMakeRect(0, middle, rowSymbol, rowSymbol));
     kelmar::setFrame(spinner_, NSMakeRect(inset, middle + inset, spinner, spinner));
     kelmar::place(title_, text, (height - textHeight) / 2, width - text);
@@ -82,18 +81,18 @@
 }
 
 - (CGFloat)layOutCardForWidth:(CGFloat)width {
-    using namespace kelmar::Metrics;
+    using namespace kelmar::Look;
     const CGFloat inside = width - 2 * cardPadding;
     CGFloat below = 0;
     for (KelmarProgressRow* row in rows_) {
         below = kelmar::place(row, cardPadding, below + cardPadding, inside);
     }
     // Room for two lines of what is going on, so that the page below stands still meanwhile.
-    const CGFloat indent = cardPadding + rowSymbol + partGap;
-    const CGFloat least = 2 * 16;
+    constexpr CGFloat twoLines = 32;
+    const CGFloat indent = stageTextIndent;
     const CGFloat top = below + cardPadding;
     const CGFloat end = kelmar::place(detail_, indent, top, width - indent - cardPadding);
-    return std::max(end, top + least) + cardPadding;
+    return std::max(end, top + twoLines) + cardPadding;
 }
 
 @end

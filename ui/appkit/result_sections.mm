@@ -1,8 +1,8 @@
 #include "ui/appkit/result_sections.h"
 
-#include "ui/appkit/metrics.hpp"
 #include "ui/appkit/note_row.h"
 #include "ui/appkit/row_list.h"
+#include "ui/look.hpp"
 
 @implementation KelmarSummarySection
 
@@ -21,7 +21,7 @@
 
 - (void)render:(const std::vector<kelmar::SummaryRow>&)rows {
     const auto make = [] {
-        return [KelmarNoteRow rowWithSymbolSize:kelmar::Metrics::rowSymbol
+        return [KelmarNoteRow rowWithSymbolSize:kelmar::Look::rowSymbol
                                           style:kelmar::TextStyle::body
                                            tone:kelmar::TextTone::primary];
     };
@@ -31,7 +31,7 @@
 }
 
 - (CGFloat)layOutCardForWidth:(CGFloat)width {
-    using namespace kelmar::Metrics;
+    using namespace kelmar::Look;
     CGFloat below = 0;
     for (KelmarNoteRow* row in rows_) {
         below = kelmar::place(row, cardPadding, below + cardPadding, width - 2 * cardPadding);
@@ -72,9 +72,9 @@
 }
 
 - (CGFloat)layOutForWidth:(CGFloat)width {
-    using namespace kelmar::Metrics;
+    using namespace kelmar::Look;
     const CGFloat inside = width - 2 * cardPadding;
-    kelmar::setFrame(divider_, NSMakeRect(cardPadding, 0, width - cardPadding, 1));
+    kelmar::setFrame(divider_, NSMakeRect(cardPadding, 0, width - cardPadding, hairline));
     const CGFloat below = kelmar::place(path_, cardPadding, rowPadding, inside);
     return kelmar::place(reason_, cardPadding, below + textGap, inside) + rowPadding;
 }

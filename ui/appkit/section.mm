@@ -1,6 +1,6 @@
 #include "ui/appkit/section.h"
 
-#include "ui/appkit/metrics.hpp"
+#include "ui/look.hpp"
 
 @implementation KelmarSection
 
@@ -38,7 +38,7 @@
 - (CGFloat)layOutForWidth:(CGFloat)width {
     CGFloat below = 0;
     if (![title_ isHidden]) {
-        below = kelmar::place(title_, 0, 0, width) + kelmar::Metrics::partGap;
+        below = kelmar::place(title_, 0, 0, width) + kelmar::Look::partGap;
     }
     const CGFloat height = [self layOutCardForWidth:width];
     [card_ setHidden:height > 0 ? NO : YES];

@@ -12,6 +12,7 @@ set(appkit_sources
     dispatcher.mm
     flipped_view.mm
     folder_list.mm
+    fonts.mm
     footer.mm
     found_section.mm
     header.mm

@@ -1,11 +1,11 @@
 #include "ui/appkit/spinner.h"
 
-#include "ui/appkit/metrics.hpp"
+#include "ui/look.hpp"
 
 namespace kelmar {
 
 NSProgressIndicator* makeSpinner() {
-    const NSRect frame = NSMakeRect(0, 0, Metrics::spinner, Metrics::spinner);
+    const NSRect frame = NSMakeRect(0, 0, Look::spinner, Look::spinner);
     NSProgressIndicator* const spinner =
         [[[NSProgressIndicator alloc] initWithFrame:frame] autorelease];
     [spinner setStyle:NSProgressIndicatorStyleSpinning];

@@ -1,25 +1,10 @@
 #pragma once
 
+#include "ui/look.hpp"
+
 #include <string>
 
 #import <AppKit/AppKit.h>
-
-namespace kelmar {
-
-enum class TextStyle {
-    title,        ///< of the page
-    sectionTitle, ///< above a card
-    body,
-    callout, ///< a little smaller
-    size,    ///< callout, in digits of equal width
-};
-
-enum class TextTone {
-    primary,
-    secondary,
-};
-
-} // namespace kelmar
 
 /// A text that wraps, or one line that loses its middle when there is no room for it.
 @interface KelmarTextLabel : NSTextField {

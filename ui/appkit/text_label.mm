@@ -1,8 +1,9 @@
 #include "ui/appkit/text_label.h"
 
 #include "system/text/foundation_text_macos.hpp"
-#include "ui/appkit/flipped_view.h"
 #include "system/text/harmless_text.hpp"
+#include "ui/appkit/flipped_view.h"
+#include "ui/appkit/fonts.h"
 
 #include <cmath>
 
@@ -11,22 +12,6 @@ namespace kelmar {
 namespace {
 
 constexpr CGFloat unlimited = 100'000;
-
-NSFont* fontOf(TextStyle style) {
-    switch (style) {
-    case TextStyle::title:
-        return [NSFont systemFontOfSize:20 weight:NSFontWeightSemibold];
-    case TextStyle::sectionTitle:
-        return [NSFont systemFontOfSize:13 weight:NSFontWeightSemibold];
-    case TextStyle::callout:
-        return [NSFont systemFontOfSize:12];
-    case TextStyle::size:
-        return [NSFont monospacedDigitSystemFontOfSize:12 weight:NSFontWeightRegular];
-    case TextStyle::body:
-        break;
-    }
-    return [NSFont systemFontOfSize:13];
-}
 
 NSColor* colourOf(TextTone tone) {
     return tone == TextTone::primary ? [NSColor labelColor] : [NSColor secondaryLabelColor];

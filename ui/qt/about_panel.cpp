@@ -1,6 +1,8 @@
 #include "ui/qt/about_panel.hpp"
 
+#include "ui/look.hpp"
 #include "ui/qt/icon.hpp"
+#include "ui/qt/margins.hpp"
 #include "ui/qt/text_label.hpp"
 
 #include <QVBoxLayout>
@@ -12,13 +14,13 @@ AboutPanel::AboutPanel(QWidget* parent) : QDialog(parent) {
     setAttribute(Qt::WA_DeleteOnClose);
     setAttribute(Qt::WA_QuitOnClose, false);
     auto* const column = new QVBoxLayout(this);
-    column->setContentsMargins(48, 24, 48, 24);
-    column->setSpacing(8);
-    auto* const icon = new IconLabel(64);
+    column->setContentsMargins(margins(Look::aboutMargin, Look::pageMargin));
+    column->setSpacing(Look::partGap);
+    auto* const icon = new IconLabel(Look::aboutIcon);
     icon->showPicture("kelmar-uninstaller");
-    auto* const name = new TextLabel(TextStyle::heading, TextLabel::Tone::primary);
+    auto* const name = new TextLabel(TextStyle::sectionTitle, TextTone::primary);
     name->showText("Kelmar Uninstaller");
-    auto* const version = new TextLabel(TextStyle::callout, TextLabel::Tone::secondary);
+    auto* const version = new TextLabel(TextStyle::callout, TextTone::secondary);
     version->showText("Version " KELMAR_VERSION);
     column->addWidget(icon, 0, Qt::AlignHCenter);
     column->addWidget(name, 0, Qt::AlignHCenter);

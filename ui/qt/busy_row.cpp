@@ -1,5 +1,6 @@
 #include "ui/qt/busy_row.hpp"
 
+#include "ui/look.hpp"
 #include "ui/qt/icon.hpp"
 #include "ui/qt/text_label.hpp"
 
@@ -9,11 +10,11 @@ namespace kelmar {
 
 BusyRow::BusyRow(QWidget* parent)
     : QWidget(parent),
-      text_(new TextLabel(TextStyle::body, TextLabel::Tone::secondary)) {
+      text_(new TextLabel(TextStyle::body, TextTone::secondary)) {
     auto* const row = new QHBoxLayout(this);
     row->setContentsMargins(0, 0, 0, 0);
-    row->setSpacing(8);
-    auto* const spinner = new IconLabel(20);
+    row->setSpacing(Look::partGap);
+    auto* const spinner = new IconLabel(Look::rowSymbol);
     spinner->showSpinner();
     row->addWidget(spinner, 0, Qt::AlignTop);
     row->addWidget(text_, 1);

@@ -1,6 +1,6 @@
 #include "ui/qt/button_row.hpp"
 
-#include "ui/qt/focus_ring.hpp"
+#include "ui/look.hpp"
 
 #include <utility>
 
@@ -11,7 +11,7 @@ namespace {
 QHBoxLayout* rowOf(QWidget& widget) {
     auto* const row = new QHBoxLayout(&widget);
     row->setContentsMargins(0, 0, 0, 0);
-    row->setSpacing(12 - 2 * focusRoom);
+    row->setSpacing(Look::buttonGap - 2 * Look::focusRoom);
     return row;
 }
 

@@ -1,5 +1,6 @@
 #include "ui/qt/card.hpp"
 
+#include "ui/look.hpp"
 #include "ui/qt/colours.hpp"
 
 #include <QPainter>
@@ -13,15 +14,21 @@ Card::Card(QWidget* parent) : QFrame(parent), rows_(new QVBoxLayout(this)) {
 
 void Card::paintEvent(QPaintEvent* /*event*/) {
     const Colours colours(palette());
-    QPainter painter(this);
+    paintCard(*this, colours.card, colours.hairline);
+}
+
+void paintCard(QWidget& widget, const QColor& ground, const QColor& edge) {
+    constexpr qreal middle = Look::hairline / 2.0; // of the line around the card
+    QPainter painter(&widget);
     painter.setRenderHint(QPainter::Antialiasing);
-    painter.setBrush(colours.card);
-    painter.setPen(colours.hairline);
-    painter.drawRoundedRect(QRectF(rect()).adjusted(0.5, 0.5, -0.5, -0.5), 10, 10);
+    painter.setBrush(ground);
+    painter.setPen(edge);
+    painter.drawRoundedRect(QRectF(widget.rect()).adjusted(middle, middle, -middle, -middle),
+                            Look::cardRadius, Look::cardRadius);
 }
 
 Hairline::Hairline(int indent, QWidget* parent) : QFrame(parent), indent_(indent) {
-    setFixedHeight(1);
+    setFixedHeight(Look::hairline);
 }
 
 void Hairline::paintEvent(QPaintEvent* /*event*/) {

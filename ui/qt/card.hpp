@@ -19,6 +19,9 @@ private:
     QVBoxLayout* rows_;
 };
 
+/// Fills `widget` as a card in these colours.
+void paintCard(QWidget& widget, const QColor& ground, const QColor& edge);
+
 /// A line across, from `indent` units after the leading edge on.
 class Hairline : public QFrame {
 public:

@@ -1,5 +1,6 @@
 #include "ui/qt/check_box.hpp"
 
+#include "ui/look.hpp"
 #include "ui/qt/colours.hpp"
 #include "ui/qt/focus_ring.hpp"
 #include "ui/qt/fonts.hpp"
@@ -13,21 +14,21 @@ namespace kelmar {
 
 namespace {
 
-constexpr int box = 16;
-constexpr int gap = 8;
-constexpr qreal radius = 4;
+constexpr int box = Look::checkBox;
+constexpr int textLeft = Look::focusRoom + box + Look::partGap;
+constexpr double half = Look::hairline / 2.0; ///< to the middle of the box's edge
 
 } // namespace
 
 CheckBox::CheckBox(QWidget* parent) : QCheckBox(parent) {
-    setFont(kelmar::font(TextStyle::body));
+    setFont(fontOf(TextStyle::body));
     setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
 }
 
 QSize CheckBox::sizeHint() const {
     const QFontMetrics metrics(font());
-    return {2 * focusRoom + box + gap + metrics.horizontalAdvance(text()),
-            2 * focusRoom + std::max(box, metrics.height())};
+    return {textLeft + metrics.horizontalAdvance(text()) + Look::focusRoom,
+            2 * Look::focusRoom + std::max(box, metrics.height())};
 }
 
 bool CheckBox::hitButton(const QPoint& point) const {
@@ -38,22 +39,21 @@ void CheckBox::paintEvent(QPaintEvent* /*event*/) {
     const Colours colours(palette());
     QPainter painter(this);
     painter.setRenderHint(QPainter::Antialiasing);
-    const QRectF square(focusRoom + 0.5, std::floor((height() - box) / 2.0) + 0.5, box - 1,
-                        box - 1);
+    const QRectF square(Look::focusRoom + half, std::floor((height() - box) / 2.0) + half,
+                        box - Look::hairline, box - Look::hairline);
     const bool on = isChecked();
     painter.setBrush(on ? (isDown() ? colours.accent.darker(118) : colours.accent)
                         : (isDown() ? colours.controlPressed : colours.control));
     painter.setPen(on ? colours.accent.darker(112) : colours.disabled);
-    painter.drawRoundedRect(square, radius, radius);
+    painter.drawRoundedRect(square, Look::controlRadius, Look::controlRadius);
     if (on) {
-        painter.drawPixmap(square.topLeft() - QPointF(0.5, 0.5),
+        painter.drawPixmap(square.topLeft() - QPointF(half, half),
                            symbol("checkmark", colours.onAccent, box, devicePixelRatioF()));
     }
     painter.setPen(isEnabled() ? colours.text : colours.disabled);
-    painter.drawText(rect().adjusted(focusRoom + box + gap, 0, 0, 0),
-                     Qt::AlignLeft | Qt::AlignVCenter, text());
+    painter.drawText(rect().adjusted(textLeft, 0, 0, 0), Qt::AlignLeft | Qt::AlignVCenter, text());
     if (showsFocus(*this)) {
-        paintFocusRing(painter, square, radius, colours);
+        paintFocusRing(painter, square, Look::controlRadius, colours);
     }
 }
 

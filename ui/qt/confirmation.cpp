@@ -1,5 +1,6 @@
 #include "ui/qt/confirmation.hpp"
 
+#include "ui/look.hpp"
 #include "ui/qt/accessibility.hpp"
 #include "ui/qt/button_row.hpp"
 #include "ui/qt/card.hpp"
@@ -13,29 +14,24 @@
 
 namespace kelmar {
 
-namespace {
-
-constexpr int boxWidth = 440;
-
-} // namespace
-
 ConfirmationOverlay::ConfirmationOverlay(QWidget& page, std::function<void(Action)> perform,
                                          QWidget* parent)
     : QWidget(parent),
       page_(page),
-      title_(new TextLabel(TextStyle::heading, TextLabel::Tone::primary)),
-      message_(new TextLabel(TextStyle::body, TextLabel::Tone::secondary)),
+      title_(new TextLabel(TextStyle::sectionTitle, TextTone::primary)),
+      message_(new TextLabel(TextStyle::body, TextTone::secondary)),
       buttons_(new ButtonRow(std::move(perform))) {
     auto* const box = new Card;
-    box->setFixedWidth(boxWidth);
-    box->rows().setContentsMargins(20, 20, 20, 16);
-    box->rows().setSpacing(16);
+    box->setFixedWidth(Look::alertWidth);
+    box->rows().setContentsMargins(Look::alertPadding, Look::alertPadding, Look::alertPadding,
+                                   Look::sectionGap);
+    box->rows().setSpacing(Look::sectionGap);
     auto* const top = new QHBoxLayout;
-    top->setSpacing(16);
-    auto* const icon = new IconLabel(48);
+    top->setSpacing(Look::sectionGap);
+    auto* const icon = new IconLabel(Look::alertIcon);
     icon->showPicture("kelmar-uninstaller");
     auto* const texts = new QVBoxLayout;
-    texts->setSpacing(6);
+    texts->setSpacing(Look::alertTextGap);
     texts->addWidget(title_);
     texts->addWidget(message_);
     texts->addStretch();

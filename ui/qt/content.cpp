@@ -1,10 +1,12 @@
 #include "ui/qt/content.hpp"
 
+#include "ui/look.hpp"
 #include "ui/qt/busy_row.hpp"
 #include "ui/qt/callout.hpp"
 #include "ui/qt/data_section.hpp"
 #include "ui/qt/details.hpp"
 #include "ui/qt/found_section.hpp"
+#include "ui/qt/margins.hpp"
 #include "ui/qt/progress_section.hpp"
 #include "ui/qt/result_sections.hpp"
 #include "ui/qt/slim_scroll_bar.hpp"
@@ -17,13 +19,6 @@
 
 namespace kelmar {
 
-namespace {
-
-constexpr int margin = 24;
-constexpr int verticalMargin = 16;
-
-} // namespace
-
 ContentWidget::ContentWidget(WindowActions actions, QWidget* parent)
     : QScrollArea(parent),
       actions_(std::move(actions)),
@@ -35,8 +30,8 @@ ContentWidget::ContentWidget(WindowActions actions, QWidget* parent)
     setFocusPolicy(Qt::NoFocus);
     auto* const inside = new QWidget;
     column_ = new QVBoxLayout(inside);
-    column_->setContentsMargins(margin, verticalMargin, margin, verticalMargin);
-    column_->setSpacing(16);
+    column_->setContentsMargins(margins(Look::pageMargin, Look::sectionGap));
+    column_->setSpacing(Look::sectionGap);
     for (std::size_t place = 0; place < places; ++place) {
         // A place of its own for every block, so that a late one comes between the right two.
         column_->addLayout(new QVBoxLayout);
@@ -51,7 +46,7 @@ void ContentWidget::resizeEvent(QResizeEvent* event) {
     // The scroll bar takes its room from the margin, so that the content stays where it is.
     const int bar = width() - viewport()->width();
     QMargins margins = column_->contentsMargins();
-    margins.setRight(std::max(0, margin - bar));
+    margins.setRight(std::max(0, Look::pageMargin - bar));
     column_->setContentsMargins(margins);
     QScrollArea::resizeEvent(event);
 }
@@ -100,7 +95,7 @@ void ContentWidget::renderBlocks(const ScanningContent& content) {
 }
 
 void ContentWidget::renderBlocks(const NothingFoundContent& content) {
-    block<TextLabel>(Place::text, TextStyle::body, TextLabel::Tone::primary).showText(content.text);
+    block<TextLabel>(Place::text, TextStyle::body, TextTone::primary).showText(content.text);
 }
 
 void ContentWidget::renderBlocks(const ReadyContent& content) {

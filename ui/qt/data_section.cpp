@@ -1,6 +1,7 @@
 #include "ui/qt/data_section.hpp"
 
-#include "ui/qt/focus_ring.hpp"
+#include "ui/look.hpp"
+#include "ui/qt/margins.hpp"
 #include "ui/qt/push_button.hpp"
 #include "ui/qt/size_label.hpp"
 #include "ui/qt/text_label.hpp"
@@ -13,30 +14,33 @@ namespace kelmar {
 DataSectionWidget::DataSectionWidget(WindowActions actions, QWidget* parent)
     : Section(parent),
       actions_(std::move(actions)),
-      label_(new TextLabel(TextStyle::body, TextLabel::Tone::primary)),
+      label_(new TextLabel(TextStyle::body, TextTone::primary)),
       total_(new SizeLabel),
       switch_(new ToggleSwitch),
-      line_(new TextLabel(TextStyle::callout, TextLabel::Tone::secondary)),
+      line_(new TextLabel(TextStyle::callout, TextTone::secondary)),
       folders_(new PushButton(PushButton::Size::regular)),
       listed_(new QVBoxLayout),
       lists_(*listed_) {
     auto* const choice = new QHBoxLayout;
-    choice->setContentsMargins(focusRoom, 0, 0, 0);
-    choice->setSpacing(8);
+    choice->setContentsMargins(Look::focusRoom, 0, 0, 0);
+    choice->setSpacing(Look::partGap);
     choice->addWidget(label_, 1);
     choice->addWidget(total_);
     choice->addWidget(switch_);
     auto* const inside = new QVBoxLayout;
     // A control's own room for its focus ring counts as part of the margin.
-    inside->setContentsMargins(12 - focusRoom, 12 - focusRoom, 12 - focusRoom, 12 - focusRoom);
-    inside->setSpacing(4);
+    constexpr int padding = Look::cardPadding - Look::focusRoom;
+    inside->setContentsMargins(margins(padding));
+    inside->setSpacing(Look::lineGap);
     inside->addLayout(choice);
     auto* const under = new QHBoxLayout;
-    under->setContentsMargins(focusRoom, 0, 56, 0);
+    // The column of the switch stays free.
+    constexpr int column = Look::columnGap + Look::switchWidth + 2 * Look::focusRoom;
+    under->setContentsMargins(Look::focusRoom, 0, column, 0);
     under->addWidget(line_);
     inside->addLayout(under);
     auto* const button = new QHBoxLayout;
-    button->setContentsMargins(0, 4, 0, 0);
+    button->setContentsMargins(0, Look::partGap - Look::lineGap, 0, 0);
     button->addWidget(folders_);
     button->addStretch();
     inside->addLayout(button);

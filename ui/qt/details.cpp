@@ -1,8 +1,10 @@
 #include "ui/qt/details.hpp"
 
+#include "ui/look.hpp"
 #include "ui/qt/card.hpp"
 #include "ui/qt/disclosure.hpp"
 #include "ui/qt/log_view.hpp"
+#include "ui/qt/margins.hpp"
 
 namespace kelmar {
 
@@ -13,14 +15,14 @@ DetailsWidget::DetailsWidget(const std::function<void(Action)>& perform, QWidget
       log_(new LogView) {
     auto* const column = new QVBoxLayout(this);
     column->setContentsMargins(0, 0, 0, 0);
-    column->setSpacing(8);
+    column->setSpacing(Look::partGap);
     auto* const row = new QHBoxLayout;
     row->setContentsMargins(0, 0, 0, 0);
     row->addWidget(toggle_);
     row->addStretch();
     column->addLayout(row);
     auto* const card = static_cast<Card*>(frame_);
-    card->rows().setContentsMargins(2, 4, 2, 4);
+    card->rows().setContentsMargins(margins(Look::logSideMargin, Look::logVerticalMargin));
     card->rows().addWidget(log_);
     column->addWidget(frame_, 1);
     frame_->hide();

@@ -1,5 +1,6 @@
 #include "ui/qt/disclosure.hpp"
 
+#include "ui/look.hpp"
 #include "ui/qt/colours.hpp"
 #include "ui/qt/focus_ring.hpp"
 #include "ui/qt/fonts.hpp"
@@ -12,13 +13,14 @@ namespace kelmar {
 
 namespace {
 
-constexpr int chevron = 14;
-constexpr int gap = 4;
+constexpr int chevron = Look::disclosureChevron;
+constexpr int textLeft = Look::focusRoom + chevron + Look::disclosureGap;
+constexpr int slack = 4; ///< right of the text, and above and below it together
 
 } // namespace
 
 Disclosure::Disclosure(QWidget* parent) : QPushButton(parent) {
-    setFont(kelmar::font(TextStyle::body));
+    setFont(fontOf(TextStyle::body));
     setAutoDefault(false);
     setFlat(true);
     setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
@@ -35,26 +37,24 @@ void Disclosure::render(const Button& button, bool unfolded) {
 
 QSize Disclosure::sizeHint() const {
     const QFontMetrics metrics(font());
-    return {chevron + gap + metrics.horizontalAdvance(text()) + 2 * focusRoom + 4,
-            metrics.height() + 4 + 2 * focusRoom};
+    return {textLeft + metrics.horizontalAdvance(text()) + slack + Look::focusRoom,
+            metrics.height() + slack + 2 * Look::focusRoom};
 }
 
 void Disclosure::paintEvent(QPaintEvent* /*event*/) {
     const Colours colours(palette());
     QPainter painter(this);
     painter.setRenderHint(QPainter::Antialiasing);
-    const int left = focusRoom;
-    painter.drawPixmap(left, (height() - chevron) / 2,
+    painter.drawPixmap(Look::focusRoom, (height() - chevron) / 2,
                        symbol(unfolded_ ? "chevron.down" : "chevron.right",
                               isDown() ? colours.text : colours.secondary, chevron,
                               devicePixelRatioF()));
     painter.setPen(colours.text);
-    painter.drawText(rect().adjusted(left + chevron + gap, 0, 0, 0),
-                     Qt::AlignLeft | Qt::AlignVCenter, text());
+    painter.drawText(rect().adjusted(textLeft, 0, 0, 0), Qt::AlignLeft | Qt::AlignVCenter, text());
     if (showsFocus(*this)) {
-        paintFocusRing(painter,
-                       QRectF(rect()).adjusted(focusRoom, focusRoom, -focusRoom, -focusRoom), 4,
-                       colours);
+        constexpr int room = Look::focusRoom;
+        paintFocusRing(painter, QRectF(rect()).adjusted(room, room, -room, -room),
+                       Look::controlRadius, colours);
     }
 }
 

@@ -1,5 +1,7 @@
 #include "ui/qt/focus_ring.hpp"
 
+#include "ui/look.hpp"
+
 namespace kelmar {
 
 bool showsFocus(const QWidget& widget) {
@@ -12,8 +14,10 @@ void paintFocusRing(QPainter& painter, const QRectF& around, qreal radius, const
         ring = ring.lighter(150);
     }
     painter.setBrush(Qt::NoBrush);
-    painter.setPen(QPen(ring, 2));
-    painter.drawRoundedRect(around.adjusted(-2, -2, 2, 2), radius + 2, radius + 2);
+    constexpr int width = Look::focusRing;
+    painter.setPen(QPen(ring, width));
+    painter.drawRoundedRect(around.adjusted(-width, -width, width, width), radius + width,
+                            radius + width);
 }
 
 } // namespace kelmar

@@ -8,9 +8,6 @@
 
 namespace kelmar {
 
-/// Units that a control keeps free around itself for the ring.
-constexpr int focusRoom = 3;
-
 /// Whether `widget` is to show that it has the focus: once the keyboard has been used to move it.
 /// Who works with the mouse needs no ring.
 bool showsFocus(const QWidget& widget);

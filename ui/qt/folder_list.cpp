@@ -1,7 +1,9 @@
 #include "ui/qt/folder_list.hpp"
 
+#include "ui/look.hpp"
 #include "ui/qt/card.hpp"
 #include "ui/qt/check_box.hpp"
+#include "ui/qt/margins.hpp"
 #include "ui/qt/size_label.hpp"
 #include "ui/qt/text_label.hpp"
 
@@ -13,12 +15,12 @@ namespace kelmar {
 FolderRowWidget::FolderRowWidget(const SelectFolder& select, QWidget* parent)
     : QWidget(parent),
       check_(new CheckBox),
-      summary_(new TextLabel(TextStyle::callout, TextLabel::Tone::secondary,
-                             TextLabel::Overflow::elideMiddle)),
+      summary_(
+          new TextLabel(TextStyle::callout, TextTone::secondary, TextLabel::Overflow::elideMiddle)),
       size_(new SizeLabel) {
     auto* const row = new QHBoxLayout(this);
     row->setContentsMargins(0, 0, 0, 0);
-    row->setSpacing(8);
+    row->setSpacing(Look::partGap);
     row->addWidget(check_);
     row->addWidget(summary_, 1, Qt::AlignVCenter);
     row->addWidget(size_);
@@ -41,8 +43,8 @@ void FolderRowWidget::render(const FolderRow& row) {
 FolderListWidget::FolderListWidget(SelectFolder select, QWidget* parent)
     : QWidget(parent),
       select_(std::move(select)),
-      heading_(new TextLabel(TextStyle::callout, TextLabel::Tone::secondary)),
-      others_(new TextLabel(TextStyle::callout, TextLabel::Tone::secondary)),
+      heading_(new TextLabel(TextStyle::callout, TextTone::secondary)),
+      others_(new TextLabel(TextStyle::callout, TextTone::secondary)),
       folders_(new QVBoxLayout),
       rows_(*folders_) {
     auto* const column = new QVBoxLayout(this);
@@ -50,9 +52,9 @@ FolderListWidget::FolderListWidget(SelectFolder select, QWidget* parent)
     column->setSpacing(0);
     column->addWidget(new Hairline);
     auto* const inside = new QVBoxLayout;
-    inside->setContentsMargins(12, 12, 12, 12);
-    inside->setSpacing(8);
-    folders_->setSpacing(4);
+    inside->setContentsMargins(margins(Look::cardPadding));
+    inside->setSpacing(Look::partGap);
+    folders_->setSpacing(Look::lineGap);
     inside->addWidget(heading_);
     inside->addLayout(folders_);
     inside->addWidget(others_);

@@ -18,22 +18,17 @@ QFont scaled(QFont font, double factor) {
 
 } // namespace
 
-QFont font(TextStyle style) {
-    QFont font = QGuiApplication::font();
-    switch (style) {
-    case TextStyle::title:
-        font = scaled(font, 20.0 / 13);
+QFont fontOf(TextStyle style) {
+    const TextLook look = lookOf(style);
+    QFont font = look.face == TextFace::monospaced
+                     ? QFontDatabase::systemFont(QFontDatabase::FixedFont)
+                     : QGuiApplication::font();
+    // What is set does not follow the desktop's font when that changes, so only what differs is.
+    if (look.points != bodyPoints) {
+        font = scaled(font, static_cast<double>(look.points) / bodyPoints);
+    }
+    if (look.weight == TextWeight::semibold) {
         font.setWeight(QFont::DemiBold);
-        return font;
-    case TextStyle::heading:
-        font.setWeight(QFont::DemiBold);
-        return font;
-    case TextStyle::callout:
-        return scaled(font, 12.0 / 13);
-    case TextStyle::record:
-        return scaled(QFontDatabase::systemFont(QFontDatabase::FixedFont), 12.0 / 13);
-    case TextStyle::body:
-        break;
     }
     return font;
 }

@@ -1,31 +1,25 @@
 #include "ui/qt/found_section.hpp"
 
+#include "ui/look.hpp"
 #include "ui/qt/icon.hpp"
+#include "ui/qt/margins.hpp"
 #include "ui/qt/text_label.hpp"
 
 #include <variant>
 
 namespace kelmar {
 
-namespace {
-
-constexpr int iconColumn = 28;
-constexpr int symbolSize = 20;
-constexpr int dividerIndent = 52;
-
-} // namespace
-
 FoundRowWidget::FoundRowWidget(bool first, QWidget* parent)
     : QWidget(parent),
-      icon_(new IconLabel(iconColumn)),
-      title_(new TextLabel(TextStyle::body, TextLabel::Tone::primary)),
-      detail_(new TextLabel(TextStyle::callout, TextLabel::Tone::secondary)) {
-    QVBoxLayout& column = layOutRow(*this, first, dividerIndent);
+      icon_(new IconLabel(Look::rowIcon)),
+      title_(new TextLabel(TextStyle::body, TextTone::primary)),
+      detail_(new TextLabel(TextStyle::callout, TextTone::secondary)) {
+    QVBoxLayout& column = layOutRow(*this, first, Look::foundTextIndent);
     auto* const row = new QHBoxLayout;
-    row->setContentsMargins(12, 8, 12, 8);
-    row->setSpacing(12);
+    row->setContentsMargins(margins(Look::cardPadding, Look::rowPadding));
+    row->setSpacing(Look::columnGap);
     auto* const texts = new QVBoxLayout;
-    texts->setSpacing(2);
+    texts->setSpacing(Look::textGap);
     texts->addWidget(title_);
     texts->addWidget(detail_);
     row->addWidget(icon_, 0, Qt::AlignVCenter);
@@ -35,7 +29,7 @@ FoundRowWidget::FoundRowWidget(bool first, QWidget* parent)
 
 void FoundRowWidget::render(const FoundRow& row) {
     if (const auto* const symbol = std::get_if<FoundRow::Symbol>(&row.icon)) {
-        icon_->showSymbol(symbol->name, Tint::secondary, symbolSize);
+        icon_->showSymbol(symbol->name, Tint::secondary, Look::rowSymbol);
     } else {
         // No desktop here knows the bundle's own icon; this is the product's.
         icon_->showPicture("kelmar-app");

@@ -1,7 +1,9 @@
 #include "ui/qt/header.hpp"
 
+#include "ui/look.hpp"
 #include "ui/qt/accessibility.hpp"
 #include "ui/qt/icon.hpp"
+#include "ui/qt/margins.hpp"
 #include "ui/qt/text_label.hpp"
 
 #include <QVBoxLayout>
@@ -10,16 +12,16 @@ namespace kelmar {
 
 HeaderWidget::HeaderWidget(QWidget* parent)
     : QWidget(parent),
-      title_(new TextLabel(TextStyle::title, TextLabel::Tone::primary)),
-      subtitle_(new TextLabel(TextStyle::body, TextLabel::Tone::secondary)),
+      title_(new TextLabel(TextStyle::title, TextTone::primary)),
+      subtitle_(new TextLabel(TextStyle::body, TextTone::secondary)),
       announcer_(new QWidget(this)) {
     auto* const row = new QHBoxLayout(this);
-    row->setContentsMargins(24, 16, 24, 16);
-    row->setSpacing(16);
-    auto* const icon = new IconLabel(56);
+    row->setContentsMargins(margins(Look::pageMargin, Look::sectionGap));
+    row->setSpacing(Look::sectionGap);
+    auto* const icon = new IconLabel(Look::headerIcon);
     icon->showPicture("kelmar-uninstaller");
     auto* const texts = new QVBoxLayout;
-    texts->setSpacing(4);
+    texts->setSpacing(Look::lineGap);
     texts->addStretch();
     texts->addWidget(title_);
     texts->addWidget(subtitle_);
@@ -27,7 +29,7 @@ HeaderWidget::HeaderWidget(QWidget* parent)
     row->addWidget(icon, 0, Qt::AlignVCenter);
     row->addLayout(texts, 1);
     // Room for a subtitle of two lines, so that the page below does not move from phase to phase.
-    setMinimumHeight(32 + 4 + QFontMetrics(title_->font()).height() +
+    setMinimumHeight(2 * Look::sectionGap + Look::lineGap + QFontMetrics(title_->font()).height() +
                      2 * QFontMetrics(subtitle_->font()).lineSpacing());
     setAccessibleRole(*title_, QAccessible::Heading);
     setAccessibleRole(*announcer_, QAccessible::Notification);

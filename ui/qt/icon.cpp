@@ -1,5 +1,6 @@
 #include "ui/qt/icon.hpp"
 
+#include "ui/look.hpp"
 #include "ui/qt/colours.hpp"
 #include "ui/qt/symbols.hpp"
 
@@ -42,7 +43,7 @@ void IconLabel::showPicture(const std::string& name) {
 }
 
 void IconLabel::showSpinner() {
-    become(Kind::spinner, "", Tint::secondary, 16);
+    become(Kind::spinner, "", Tint::secondary, Look::spinner);
 }
 
 void IconLabel::turnWhileSeen() {

@@ -1,5 +1,6 @@
 #include "ui/qt/log_view.hpp"
 
+#include "ui/look.hpp"
 #include "ui/qt/colours.hpp"
 #include "ui/qt/fonts.hpp"
 #include "ui/qt/slim_scroll_bar.hpp"
@@ -16,20 +17,24 @@ namespace {
 /// Lines that are laid out well within the 16 milliseconds of one picture.
 constexpr std::size_t portion = 400;
 
+/// The part of the text's padding that scrolls with the text.
+constexpr int documentMargin = 6;
+constexpr int viewportMargin = Look::logPadding - documentMargin;
+
 } // namespace
 
 LogView::LogView(QWidget* parent) : QPlainTextEdit(parent) {
     setReadOnly(true);
     setUndoRedoEnabled(false); // what can be undone is kept a second time
     setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
-    setFont(kelmar::font(TextStyle::record));
+    setFont(fontOf(TextStyle::log));
     setWordWrapMode(QTextOption::WrapAtWordBoundaryOrAnywhere);
     setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     setVerticalScrollBar(new SlimScrollBar);
     setFrameShape(QFrame::NoFrame);
     setTabChangesFocus(true);
-    setViewportMargins(4, 4, 0, 4);
-    document()->setDocumentMargin(6);
+    setViewportMargins(viewportMargin, viewportMargin, 0, viewportMargin);
+    document()->setDocumentMargin(documentMargin);
     applyColours();
     const QScrollBar* const bar = verticalScrollBar();
     connect(bar, &QScrollBar::valueChanged, this,

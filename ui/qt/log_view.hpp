@@ -1,6 +1,7 @@
 #pragma once
 
 #include "ui/log_lines.hpp"
+#include "ui/look.hpp"
 
 #include <QBasicTimer>
 #include <QPlainTextEdit>
@@ -18,9 +19,9 @@ public:
     void render(const LogLines& log);
 
     /// As low as is of use; its place gives it what height there is.
-    [[nodiscard]] QSize sizeHint() const override { return {200, leastHeight}; }
+    [[nodiscard]] QSize sizeHint() const override { return {200, Look::logHeight}; }
 
-    [[nodiscard]] QSize minimumSizeHint() const override { return {100, leastHeight}; }
+    [[nodiscard]] QSize minimumSizeHint() const override { return {100, Look::logHeight}; }
 
     /// Whether all of the record is in the view.
     [[nodiscard]] bool isComplete() const { return shown_ == log_.size(); }
@@ -30,8 +31,6 @@ protected:
     void changeEvent(QEvent* event) override;
 
 private:
-    static constexpr int leastHeight = 112;
-
     void addPortion();
     void applyColours();
 

@@ -1,5 +1,6 @@
 #include "ui/qt/main_window.hpp"
 
+#include "ui/look.hpp"
 #include "ui/qt/menu.hpp"
 #include "ui/qt/page.hpp"
 #include "ui/qt/symbols.hpp"
@@ -13,11 +14,11 @@ namespace kelmar {
 
 namespace {
 
-constexpr QSize contentSize(600, 620);
+constexpr QSize contentSize(Look::windowWidth, Look::windowHeight);
 
 QIcon icon() {
     QIcon icon;
-    icon.addPixmap(picture("kelmar-uninstaller", 64, 1));
+    icon.addPixmap(picture("kelmar-uninstaller", Look::windowIcon, 1));
     return icon;
 }
 

@@ -1,19 +1,20 @@
 #include "ui/qt/note_row.hpp"
 
+#include "ui/look.hpp"
 #include "ui/qt/icon.hpp"
 
 #include <QHBoxLayout>
 
 namespace kelmar {
 
-NoteRow::NoteRow(int size, TextStyle style, TextLabel::Tone tone, QWidget* parent)
+NoteRow::NoteRow(int size, TextStyle style, TextTone tone, QWidget* parent)
     : QWidget(parent),
       size_(size),
       symbol_(new IconLabel(size)),
       text_(new TextLabel(style, tone)) {
     auto* const row = new QHBoxLayout(this);
     row->setContentsMargins(0, 0, 0, 0);
-    row->setSpacing(8);
+    row->setSpacing(Look::partGap);
     row->addWidget(symbol_, 0, Qt::AlignTop);
     row->addWidget(text_, 1, Qt::AlignVCenter);
 }

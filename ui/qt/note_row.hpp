@@ -13,7 +13,7 @@ class IconLabel;
 class NoteRow : public QWidget {
 public:
     /// `size` is the symbol's, in units.
-    NoteRow(int size, TextStyle style, TextLabel::Tone tone, QWidget* parent = nullptr);
+    NoteRow(int size, TextStyle style, TextTone tone, QWidget* parent = nullptr);
 
     void render(const FooterNote& note);
     void render(const SummaryRow& row);

@@ -1,25 +1,20 @@
 #include "ui/qt/progress_section.hpp"
 
+#include "ui/look.hpp"
 #include "ui/qt/icon.hpp"
+#include "ui/qt/margins.hpp"
 #include "ui/qt/text_label.hpp"
 
 namespace kelmar {
 
-namespace {
-
-constexpr int iconSide = 20;
-constexpr int dividerIndent = 44;
-
-} // namespace
-
 ProgressRowWidget::ProgressRowWidget(bool first, QWidget* parent)
     : QWidget(parent),
-      icon_(new IconLabel(iconSide)),
-      title_(new TextLabel(TextStyle::body, TextLabel::Tone::primary)) {
-    QVBoxLayout& column = layOutRow(*this, first, dividerIndent);
+      icon_(new IconLabel(Look::rowSymbol)),
+      title_(new TextLabel(TextStyle::body, TextTone::primary)) {
+    QVBoxLayout& column = layOutRow(*this, first, Look::stageTextIndent);
     auto* const row = new QHBoxLayout;
-    row->setContentsMargins(12, 12, 12, 12);
-    row->setSpacing(12);
+    row->setContentsMargins(margins(Look::cardPadding));
+    row->setSpacing(Look::columnGap);
     row->addWidget(icon_, 0, Qt::AlignTop);
     row->addWidget(title_, 1, Qt::AlignVCenter);
     column.addLayout(row);
@@ -27,7 +22,7 @@ ProgressRowWidget::ProgressRowWidget(bool first, QWidget* parent)
 
 void ProgressRowWidget::render(const ProgressRow& row) {
     if (row.icon.symbol) {
-        icon_->showSymbol(*row.icon.symbol, row.icon.tint, iconSide);
+        icon_->showSymbol(*row.icon.symbol, row.icon.tint, Look::rowSymbol);
     } else {
         icon_->showSpinner();
     }
@@ -38,10 +33,10 @@ void ProgressRowWidget::render(const ProgressRow& row) {
 ProgressSectionWidget::ProgressSectionWidget(QWidget* parent)
     : Section(parent),
       rows_(card().rows()),
-      detail_(new TextLabel(TextStyle::callout, TextLabel::Tone::secondary,
+      detail_(new TextLabel(TextStyle::callout, TextTone::secondary,
                             TextLabel::Overflow::elideMiddle)) {
     auto* const line = new QHBoxLayout;
-    line->setContentsMargins(12, 0, 12, 0);
+    line->setContentsMargins(margins(Look::cardPadding, 0));
     line->addWidget(detail_);
     column().addLayout(line);
 }

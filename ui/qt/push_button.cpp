@@ -1,5 +1,6 @@
 #include "ui/qt/push_button.hpp"
 
+#include "ui/look.hpp"
 #include "ui/qt/colours.hpp"
 #include "ui/qt/focus_ring.hpp"
 #include "ui/qt/fonts.hpp"
@@ -11,8 +12,6 @@ namespace kelmar {
 
 namespace {
 
-constexpr qreal radius = 6;
-
 bool isReturns(const Button& button) {
     return button.key == ButtonKey::defaultAction || button.key == ButtonKey::both;
 }
@@ -20,7 +19,7 @@ bool isReturns(const Button& button) {
 } // namespace
 
 PushButton::PushButton(Size size, QWidget* parent) : QPushButton(parent), size_(size) {
-    setFont(kelmar::font(TextStyle::body));
+    setFont(fontOf(TextStyle::body));
     setAutoDefault(false);
     setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
     setAttribute(Qt::WA_Hover);
@@ -40,9 +39,10 @@ void PushButton::render(const Button& button) {
 QSize PushButton::sizeHint() const {
     const QFontMetrics metrics(font());
     const bool large = size_ == Size::large;
-    const int width = metrics.horizontalAdvance(text()) + (large ? 36 : 24);
-    return {std::max(width, large ? 88 : 0) + 2 * focusRoom,
-            metrics.height() + (large ? 14 : 8) + 2 * focusRoom};
+    const Look::Padding padding = large ? Look::largeButton : Look::regularButton;
+    const int width = metrics.horizontalAdvance(text()) + 2 * padding.sides;
+    return {std::max(width, large ? Look::buttonWidth : 0) + 2 * Look::focusRoom,
+            metrics.height() + 2 * padding.ends + 2 * Look::focusRoom};
 }
 
 void PushButton::paintEvent(QPaintEvent* /*event*/) {
@@ -50,8 +50,8 @@ void PushButton::paintEvent(QPaintEvent* /*event*/) {
     const bool filled = isReturns(shown_) && isEnabled();
     QPainter painter(this);
     painter.setRenderHint(QPainter::Antialiasing);
-    const QRectF face = QRectF(rect()).adjusted(focusRoom + 0.5, focusRoom + 0.5, -focusRoom - 0.5,
-                                                -focusRoom - 0.5);
+    constexpr qreal edge = Look::focusRoom + Look::hairline / 2.0; // the middle of the face's edge
+    const QRectF face = QRectF(rect()).adjusted(edge, edge, -edge, -edge);
     QColor fill = filled ? colours.accent : colours.control;
     if (isDown()) {
         fill = filled ? colours.accent.darker(118) : colours.controlPressed;
@@ -60,7 +60,7 @@ void PushButton::paintEvent(QPaintEvent* /*event*/) {
     }
     painter.setBrush(fill);
     painter.setPen(filled ? colours.accent.darker(112) : colours.hairline);
-    painter.drawRoundedRect(face, radius, radius);
+    painter.drawRoundedRect(face, Look::buttonRadius, Look::buttonRadius);
 
     painter.setPen(!isEnabled()         ? colours.disabled
                    : filled             ? colours.onAccent
@@ -68,7 +68,7 @@ void PushButton::paintEvent(QPaintEvent* /*event*/) {
                                         : colours.text);
     painter.drawText(rect(), Qt::AlignCenter, text());
     if (showsFocus(*this)) {
-        paintFocusRing(painter, face, radius, colours);
+        paintFocusRing(painter, face, Look::buttonRadius, colours);
     }
 }
 

@@ -1,5 +1,7 @@
 #include "ui/qt/result_sections.hpp"
 
+#include "ui/look.hpp"
+#include "ui/qt/margins.hpp"
 #include "ui/qt/text_label.hpp"
 
 namespace kelmar {
@@ -8,25 +10,25 @@ SummarySectionWidget::SummarySectionWidget(QWidget* parent)
     : Section(parent),
       inside_(new QVBoxLayout),
       rows_(*inside_) {
-    inside_->setContentsMargins(12, 12, 12, 12);
-    inside_->setSpacing(12);
+    inside_->setContentsMargins(margins(Look::cardPadding));
+    inside_->setSpacing(Look::cardPadding);
     card().rows().addLayout(inside_);
 }
 
 void SummarySectionWidget::render(const std::vector<SummaryRow>& rows) {
     rows_.render(rows, [](std::size_t) {
-        return new NoteRow(20, TextStyle::body, TextLabel::Tone::primary);
+        return new NoteRow(Look::rowSymbol, TextStyle::body, TextTone::primary);
     });
 }
 
 ProblemRowWidget::ProblemRowWidget(bool first, QWidget* parent)
     : QWidget(parent),
-      path_(new TextLabel(TextStyle::body, TextLabel::Tone::primary)),
-      reason_(new TextLabel(TextStyle::callout, TextLabel::Tone::secondary)) {
-    QVBoxLayout& column = layOutRow(*this, first, 12);
+      path_(new TextLabel(TextStyle::body, TextTone::primary)),
+      reason_(new TextLabel(TextStyle::callout, TextTone::secondary)) {
+    QVBoxLayout& column = layOutRow(*this, first, Look::cardPadding);
     auto* const texts = new QVBoxLayout;
-    texts->setContentsMargins(12, 8, 12, 8);
-    texts->setSpacing(2);
+    texts->setContentsMargins(margins(Look::cardPadding, Look::rowPadding));
+    texts->setSpacing(Look::textGap);
     texts->addWidget(path_);
     texts->addWidget(reason_);
     column.addLayout(texts);

@@ -1,5 +1,6 @@
 #include "ui/qt/section.hpp"
 
+#include "ui/look.hpp"
 #include "ui/qt/accessibility.hpp"
 #include "ui/qt/text_label.hpp"
 
@@ -8,10 +9,10 @@ namespace kelmar {
 Section::Section(QWidget* parent)
     : QWidget(parent),
       column_(new QVBoxLayout(this)),
-      title_(new TextLabel(TextStyle::heading, TextLabel::Tone::primary)),
+      title_(new TextLabel(TextStyle::sectionTitle, TextTone::primary)),
       card_(new Card) {
     column_->setContentsMargins(0, 0, 0, 0);
-    column_->setSpacing(8);
+    column_->setSpacing(Look::partGap);
     column_->addWidget(title_);
     column_->addWidget(card_);
     title_->hide();

@@ -26,7 +26,7 @@ int advance(const QFontMetrics& metrics, QChar character) {
 
 SizeLabel::SizeLabel(QWidget* parent) : QLabel(parent) {
     setTextFormat(Qt::PlainText);
-    setFont(kelmar::font(TextStyle::callout));
+    setFont(fontOf(TextStyle::size));
     setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
 }
 

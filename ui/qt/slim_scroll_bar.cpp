@@ -8,8 +8,16 @@
 
 namespace kelmar {
 
+namespace {
+
+constexpr int sideMargin = 2; ///< between the bar's edge and the handle that is drawn
+constexpr int endMargin = 1;
+constexpr int handleRadius = (Look::scrollBar - 2 * sideMargin) / 2;
+
+} // namespace
+
 SlimScrollBar::SlimScrollBar(QWidget* parent) : QScrollBar(Qt::Vertical, parent) {
-    setFixedWidth(thickness);
+    setFixedWidth(Look::scrollBar);
     setAttribute(Qt::WA_OpaquePaintEvent, false);
 }
 
@@ -25,7 +33,8 @@ void SlimScrollBar::paintEvent(QPaintEvent* /*event*/) {
     painter.setRenderHint(QPainter::Antialiasing);
     painter.setPen(Qt::NoPen);
     painter.setBrush(colour);
-    painter.drawRoundedRect(QRectF(handle).adjusted(2, 1, -2, -1), 3, 3);
+    painter.drawRoundedRect(QRectF(handle).adjusted(sideMargin, endMargin, -sideMargin, -endMargin),
+                            handleRadius, handleRadius);
 }
 
 } // namespace kelmar

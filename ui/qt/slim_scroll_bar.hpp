@@ -1,5 +1,7 @@
 #pragma once
 
+#include "ui/look.hpp"
+
 #include <QScrollBar>
 
 namespace kelmar {
@@ -7,11 +9,9 @@ namespace kelmar {
 /// A narrow upright scroll bar without buttons and groove.
 class SlimScrollBar : public QScrollBar {
 public:
-    static constexpr int thickness = 10;
-
     explicit SlimScrollBar(QWidget* parent = nullptr);
 
-    [[nodiscard]] QSize sizeHint() const override { return {thickness, thickness * 4}; }
+    [[nodiscard]] QSize sizeHint() const override { return {Look::scrollBar, Look::scrollBar * 4}; }
 
 protected:
     void paintEvent(QPaintEvent* event) override;

@@ -2,6 +2,7 @@
 
 #include "system/text/harmless_text.hpp"
 #include "ui/qt/colours.hpp"
+#include "ui/qt/fonts.hpp"
 
 #include <QAbstractButton>
 #include <QMouseEvent>
@@ -13,6 +14,8 @@
 namespace kelmar {
 
 namespace {
+
+constexpr int leastWidth = 16; ///< that a layout may give a label
 
 /// Lays `text` out in lines of `width`; the height that they take.
 double layOut(QTextLayout& layout, double width) {
@@ -33,12 +36,12 @@ double layOut(QTextLayout& layout, double width) {
 
 } // namespace
 
-TextLabel::TextLabel(TextStyle style, Tone tone, Overflow overflow, QWidget* parent)
+TextLabel::TextLabel(TextStyle style, TextTone tone, Overflow overflow, QWidget* parent)
     : QLabel(parent),
       tone_(tone),
       overflow_(overflow) {
     setTextFormat(Qt::PlainText);
-    setFont(kelmar::font(style));
+    setFont(fontOf(style));
     QSizePolicy policy(QSizePolicy::Preferred, QSizePolicy::Preferred);
     policy.setHeightForWidth(overflow == Overflow::wrap);
     setSizePolicy(policy);
@@ -68,7 +71,7 @@ QSize TextLabel::sizeHint() const {
 }
 
 QSize TextLabel::minimumSizeHint() const {
-    return {16, QFontMetrics(font()).height()};
+    return {leastWidth, QFontMetrics(font()).height()};
 }
 
 bool TextLabel::hasHeightForWidth() const {
@@ -91,9 +94,9 @@ int TextLabel::heightForWidth(int width) const {
 void TextLabel::paintEvent(QPaintEvent* /*event*/) {
     const Colours colours(palette());
     QPainter painter(this);
-    painter.setPen(!isEnabled()             ? colours.disabled
-                   : tone_ == Tone::primary ? colours.text
-                                            : colours.secondary);
+    painter.setPen(!isEnabled()                 ? colours.disabled
+                   : tone_ == TextTone::primary ? colours.text
+                                                : colours.secondary);
     if (overflow_ == Overflow::elideMiddle) {
         const QFontMetrics metrics(font());
         painter.drawText(rect(), Qt::AlignLeft | Qt::AlignVCenter | Qt::TextForceLeftToRight,

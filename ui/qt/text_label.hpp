@@ -1,6 +1,6 @@
 #pragma once
 
-#include "ui/qt/fonts.hpp"
+#include "ui/look.hpp"
 
 #include <QLabel>
 #include <string>
@@ -14,16 +14,12 @@ namespace kelmar {
 /// shows as what it is.
 class TextLabel : public QLabel {
 public:
-    enum class Tone {
-        primary,
-        secondary,
-    };
     enum class Overflow {
         wrap,
         elideMiddle,
     };
 
-    TextLabel(TextStyle style, Tone tone, Overflow overflow = Overflow::wrap,
+    TextLabel(TextStyle style, TextTone tone, Overflow overflow = Overflow::wrap,
               QWidget* parent = nullptr);
 
     /// Draws nothing anew when `text` is what is shown already.
@@ -47,7 +43,7 @@ private:
     [[nodiscard]] QString drawn() const;
     void explainElision();
 
-    Tone tone_;
+    TextTone tone_;
     Overflow overflow_;
     // The last answer of heightForWidth: layouts ask for the same one many times.
     mutable int measuredWidth_ = -1;

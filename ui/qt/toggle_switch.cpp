@@ -1,5 +1,6 @@
 #include "ui/qt/toggle_switch.hpp"
 
+#include "ui/look.hpp"
 #include "ui/qt/colours.hpp"
 #include "ui/qt/focus_ring.hpp"
 
@@ -9,8 +10,9 @@ namespace kelmar {
 
 namespace {
 
-constexpr int trackWidth = 38;
-constexpr int trackHeight = 22;
+constexpr qreal radius = Look::switchHeight / 2.0;
+constexpr int knobInset = 2; ///< between the track's edge and the knob
+constexpr int knob = Look::switchHeight - 2 * knobInset;
 
 } // namespace
 
@@ -19,7 +21,7 @@ ToggleSwitch::ToggleSwitch(QWidget* parent) : QCheckBox(parent) {
 }
 
 QSize ToggleSwitch::sizeHint() const {
-    return {trackWidth + 2 * focusRoom, trackHeight + 2 * focusRoom};
+    return {Look::switchWidth + 2 * Look::focusRoom, Look::switchHeight + 2 * Look::focusRoom};
 }
 
 bool ToggleSwitch::hitButton(const QPoint& point) const {
@@ -30,17 +32,16 @@ void ToggleSwitch::paintEvent(QPaintEvent* /*event*/) {
     const Colours colours(palette());
     QPainter painter(this);
     painter.setRenderHint(QPainter::Antialiasing);
-    const QRectF track(focusRoom, focusRoom, trackWidth, trackHeight);
+    const QRectF track(Look::focusRoom, Look::focusRoom, Look::switchWidth, Look::switchHeight);
     const bool on = isChecked();
     painter.setPen(Qt::NoPen);
     painter.setBrush(on && isEnabled() ? colours.accent : colours.disabled);
-    painter.drawRoundedRect(track, trackHeight / 2.0, trackHeight / 2.0);
-    const qreal knob = trackHeight - 4;
-    const qreal left = on ? track.right() - 2 - knob : track.left() + 2;
+    painter.drawRoundedRect(track, radius, radius);
+    const qreal left = on ? track.right() - knobInset - knob : track.left() + knobInset;
     painter.setBrush(isDown() ? QColor(0xe8, 0xe8, 0xe8) : QColor(Qt::white));
-    painter.drawEllipse(QRectF(left, track.top() + 2, knob, knob));
+    painter.drawEllipse(QRectF(left, track.top() + knobInset, knob, knob));
     if (showsFocus(*this)) {
-        paintFocusRing(painter, track, trackHeight / 2.0, colours);
+        paintFocusRing(painter, track, radius, colours);
     }
 }
 

@@ -11,7 +11,6 @@ APPKIT_EXTERN const NSFontWeight NSFontWeightRegular;
 APPKIT_EXTERN const NSFontWeight NSFontWeightSemibold;
 
 @interface NSFont : NSObject
-+ (NSFont *)systemFontOfSize:(CGFloat)size;
 + (NSFont *)systemFontOfSize:(CGFloat)size weight:(NSFontWeight)weight;
 + (NSFont *)monospacedSystemFontOfSize:(CGFloat)size weight:(NSFontWeight)weight;
 + (NSFont *)monospacedDigitSystemFontOfSize:(CGFloat)size weight:(NSFontWeight)weight;
