@@ -4,13 +4,13 @@ import subprocess
 
 import archive_checks
 import executable_checks
-import made
 import resource_checks
+from build import MINIMUM
 
 CHECKS = {
     "exactly the files of a bundle, with their modes": resource_checks.what_is_in_it,
     "both architectures and no other": executable_checks.both_architectures,
-    f"for macOS {made.MINIMUM} in each": executable_checks.minimum_version,
+    f"for macOS {MINIMUM} in each": executable_checks.minimum_version,
     "exactly the system's libraries": executable_checks.libraries,
     "no search path for libraries": executable_checks.search_paths,
     "the signature of the arm64 executable, page by page": executable_checks.signature,

@@ -4,18 +4,18 @@
 import sys
 
 import bundle_checks
-from made import Made
+from build import Build
 
 
 def main():
     if len(sys.argv) != 2:
         sys.exit("usage: check_bundle.py FOLDER")
-    made = Made(sys.argv[1])
-    if not made.bundle.is_dir():
-        sys.exit(f"check_bundle.py: {made.bundle} is not there; scripts/build-macos makes it")
+    build = Build(sys.argv[1])
+    if not build.bundle.is_dir():
+        sys.exit(f"check_bundle.py: {build.bundle} is not there; scripts/build-macos makes it")
     failed = False
     for name, check in bundle_checks.CHECKS.items():
-        findings = bundle_checks.findings_of(check, made)
+        findings = bundle_checks.findings_of(check, build)
         print(f"{'FAILED' if findings else 'ok':8}{name}")
         for finding in findings:
             print(f"          {finding}")

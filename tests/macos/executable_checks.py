@@ -5,7 +5,7 @@ import re
 
 import declarations
 import mach_o
-from made import MINIMUM, PROJECT, llvm, output_of
+from build import MINIMUM, PROJECT, llvm, output_of
 
 ARCHITECTURES = {"arm64", "x86_64"}
 FRAMEWORKS = "/System/Library/Frameworks"
@@ -18,30 +18,30 @@ LIBRARIES = {
 }
 
 
-def headers(made):
+def headers(build):
     """The load commands as text, by architecture."""
-    text = output_of("llvm-objdump", "--macho", "--arch=all", "--private-headers", str(made.executable))
+    text = output_of("llvm-objdump", "--macho", "--arch=all", "--private-headers", str(build.executable))
     parts = re.split(r"^.* \(architecture (\w+)\):$", text, flags=re.MULTILINE)
     return dict(zip(parts[1::2], parts[2::2]))
 
 
-def both_architectures(made):
-    found = set(output_of(llvm("llvm-lipo"), "-archs", str(made.executable)).split())
+def both_architectures(build):
+    found = set(output_of(llvm("llvm-lipo"), "-archs", str(build.executable)).split())
     if found != ARCHITECTURES:
         yield f"{sorted(found)}"
 
 
-def minimum_version(made):
-    for architecture, text in headers(made).items():
-        build = re.search(r"cmd LC_BUILD_VERSION.*?platform (\w+).*?sdk (\S+).*?minos (\S+)", text, re.DOTALL)
-        if not build or build.group(1) != "macos" or build.group(3) != MINIMUM:
-            yield f"{architecture}: {build.groups() if build else 'no build version'}"
-        elif build.group(2) != MINIMUM:
-            yield f"{architecture}: behaves as if made with the interface of {build.group(2)}"
+def minimum_version(build):
+    for architecture, text in headers(build).items():
+        command = re.search(r"cmd LC_BUILD_VERSION.*?platform (\w+).*?sdk (\S+).*?minos (\S+)", text, re.DOTALL)
+        if not command or command.group(1) != "macos" or command.group(3) != MINIMUM:
+            yield f"{architecture}: {command.groups() if command else 'no build version'}"
+        elif command.group(2) != MINIMUM:
+            yield f"{architecture}: behaves as if made with the interface of {command.group(2)}"
 
 
-def libraries(made):
-    for architecture, text in headers(made).items():
+def libraries(build):
+    for architecture, text in headers(build).items():
         found = set(re.findall(r"cmd LC_\w*DYLIB\n.*?name (\S+) \(offset", text, re.DOTALL))
         if found - LIBRARIES:
             yield f"{architecture}: also {sorted(found - LIBRARIES)}"
@@ -49,29 +49,29 @@ def libraries(made):
             yield f"{architecture}: not {sorted(LIBRARIES - found)}"
 
 
-def search_paths(made):
-    for architecture, text in headers(made).items():
+def search_paths(build):
+    for architecture, text in headers(build).items():
         for command in re.findall(r"cmd (LC_RPATH|LC_DYLD_ENVIRONMENT)", text):
             yield f"{architecture}: {command}"
 
 
-def classes(made):
+def classes(build):
     """dyld tells the runtime of Objective-C of an executable with the first of these, which then reads the second."""
-    for architecture, data in mach_o.slices(made.executable.read_bytes()).items():
+    for architecture, data in mach_o.slices(build.executable.read_bytes()).items():
         for name in sorted({"__objc_imageinfo", "__objc_classlist"} - mach_o.section_names(data)):
             yield f"{architecture}: no {name}"
 
 
-def signature(made):
-    slices = mach_o.slices(made.executable.read_bytes())
+def signature(build):
+    slices = mach_o.slices(build.executable.read_bytes())
     if "arm64" not in slices:
         yield "nothing to be signed"
     else:
         yield from mach_o.signature_findings(slices["arm64"])
 
 
-def stripped(made):
-    data = made.executable.read_bytes()
+def stripped(build):
+    data = build.executable.read_bytes()
     # Those that a table of the executable refers to stay in; no table refers to a method.
     if re.search(rb"\0[-+]\[\w+ [\w:]+\]", data):
         yield "the names of methods are in it"
@@ -80,9 +80,9 @@ def stripped(made):
             yield f"{path} is in it"
 
 
-def nothing_unused(made):
-    yield from declarations.unused(str(made.executable), made.declarations)
+def nothing_unused(build):
+    yield from declarations.unused(str(build.executable), build.declarations)
 
 
-def pages_named(made):
-    yield from declarations.without_page(made.declarations)
+def pages_named(build):
+    yield from declarations.without_page(build.declarations)

@@ -1,36 +1,36 @@
-"""How an executable is spoilt: its slices, its load commands."""
+"""Edits an executable in place: its slices, its load commands."""
 
 import os
 import subprocess
 
 import mach_o
+from build import llvm
 from executable_checks import ARCHITECTURES
-from made import llvm
 
 
 def run(tool, *arguments):
     subprocess.run([llvm(tool), *arguments], check=True)
 
 
-def change_slice(made, architecture, change):
+def change_slice(build, architecture, change):
     """Rewrites one architecture's executable in place; the size stays."""
-    data = made.executable.read_bytes()
+    data = build.executable.read_bytes()
     old = mach_o.slices(data)[architecture]
     new = bytearray(old)
     change(new)
     assert len(new) == len(old) and new != old
-    made.executable.write_bytes(data.replace(old, bytes(new)))
+    build.executable.write_bytes(data.replace(old, bytes(new)))
 
 
-def remake(made, change):
+def remake(build, change):
     """Takes the universal executable apart, lets `change` have each executable's path, and joins them."""
     parts = []
     for architecture in sorted(ARCHITECTURES):
-        part = made.folder / architecture
-        run("llvm-lipo", "-thin", architecture, str(made.executable), "-output", str(part))
+        part = build.folder / architecture
+        run("llvm-lipo", "-thin", architecture, str(build.executable), "-output", str(part))
         change(architecture, part)
         parts.append(str(part))
-    run("llvm-lipo", "-create", *parts, "-output", str(made.executable))
+    run("llvm-lipo", "-create", *parts, "-output", str(build.executable))
     for part in parts:
         os.remove(part)
 

@@ -66,7 +66,7 @@ def findings_in(data):
         if picture[:8] != PNG or struct.unpack_from(">II", picture, 16) != (size, size):
             findings.append(f"{kind!r} is not a PNG of {size}")
         elif not is_sound(picture):
-            findings.append(f"{kind!r} is spoilt")
+            findings.append(f"{kind!r} is corrupt")
     for kind, size in CHANNELS.items():
         if unpacked_size(elements.get(kind, b"")) != 3 * size * size:
             findings.append(f"{kind!r} is not {size} wide")

@@ -5,7 +5,7 @@ import plistlib
 import re
 
 import icon
-from made import MINIMUM, NAME, PROJECT, legacy_identifier, output_of, tree, version
+from build import MINIMUM, NAME, PROJECT, legacy_identifier, output_of, tree, version
 
 MOST_BYTES = 4 * 1024 * 1024
 
@@ -46,24 +46,24 @@ def information():
     }
 
 
-def what_is_in_it(made):
-    found = tree(made.bundle)
+def what_is_in_it(build):
+    found = tree(build.bundle)
     for path in sorted(found.keys() | CONTENTS.keys()):
         if found.get(path) != CONTENTS.get(path):
             yield f"{path}: {found.get(path, 'missing')}, wanted {CONTENTS.get(path, 'nothing')} (modes as numbers)"
 
 
-def script(made):
+def script(build):
     source = PROJECT / "admin/uninstall-as-admin.sh"
-    if (made.contents / "Resources/uninstall-as-admin.sh").read_bytes() != source.read_bytes():
+    if (build.contents / "Resources/uninstall-as-admin.sh").read_bytes() != source.read_bytes():
         yield "not the bytes of admin/uninstall-as-admin.sh"
 
 
-def information_list(made):
-    data = (made.contents / "Info.plist").read_bytes()
+def information_list(build):
+    data = (build.contents / "Info.plist").read_bytes()
     try:
         # A second reader beside Python's own.
-        output_of("plistutil", "-i", str(made.contents / "Info.plist"), "-f", "bin", "-o", os.devnull)
+        output_of("plistutil", "-i", str(build.contents / "Info.plist"), "-f", "bin", "-o", os.devnull)
         found = plistlib.loads(data)
     except Exception as error:
         yield f"not a property list: {error}"
@@ -79,19 +79,19 @@ def information_list(made):
         yield "the identifier begins with the product's own: the program would remove its own settings"
 
 
-def entitlements(made):
-    found = plistlib.loads(made.entitlements.read_bytes())
+def entitlements(build):
+    found = plistlib.loads(build.entitlements.read_bytes())
     if found != {"com.apple.security.automation.apple-events": True}:
         yield f"{found}: not AppleScript, which asks for the password, and nothing else"
 
 
-def type_and_creator(made):
-    if (made.contents / "PkgInfo").read_bytes() != b"APPL????":
+def type_and_creator(build):
+    if (build.contents / "PkgInfo").read_bytes() != b"APPL????":
         yield "not APPL????"
 
 
-def picture(made):
-    path = made.contents / "Resources/kelmar-uninstaller.icns"
+def picture(build):
+    path = build.contents / "Resources/kelmar-uninstaller.icns"
     yield from icon.findings_in(path.read_bytes())
     # A second reader, for the two that aren't PNG.
     listing = output_of("icns2png", "--list", str(path))
@@ -100,7 +100,7 @@ def picture(made):
             yield f"icns2png finds no icon of {size}"
 
 
-def size(made):
-    total = sum(path.lstat().st_size for path in made.bundle.rglob("*") if path.is_file())
+def size(build):
+    total = sum(path.lstat().st_size for path in build.bundle.rglob("*") if path.is_file())
     if total >= MOST_BYTES:
         yield f"{total} bytes"

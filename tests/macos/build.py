@@ -1,4 +1,4 @@
-"""What was made: the bundle and the archive, how they are looked at, and what the sources say of them."""
+"""A finished build: the bundle and the archive, how they are read, and what the sources say of them."""
 
 import os
 import pathlib
@@ -20,7 +20,7 @@ def legacy_identifier():
     return re.search(r'legacyBundleIdentifier = "([^"]+)"', text).group(1)
 
 
-class Made:
+class Build:
     """The bundle, and the archive beside it."""
 
     def __init__(self, folder):
@@ -29,7 +29,7 @@ class Made:
         self.contents = self.bundle / "Contents"
         self.executable = self.contents / "MacOS" / NAME
         self.archive = self.folder / f"Kelmar-Uninstaller-{version()}.zip"
-        # What it was made with; a test that spoils these works on copies.
+        # What it was built with; a mutation of these works on copies.
         self.declarations = PROJECT / "packaging/macos/declarations"
         self.entitlements = PROJECT / "packaging/macos/entitlements.plist"
 

@@ -4,51 +4,51 @@ import os
 import struct
 
 import executable_checks as checks
-from damage import damage
+from build import PROJECT
 from executable_edit import change_slice, command_at, remake, run, unused_place
-from made import PROJECT
+from mutation import mutation
 
 
-@damage(checks.both_architectures, checks.signature)
-def one_architecture_missing(made):
-    thin = made.folder / "thin"
-    run("llvm-lipo", "-thin", "x86_64", str(made.executable), "-output", str(thin))
-    run("llvm-lipo", "-create", str(thin), "-output", str(made.executable))
+@mutation(checks.both_architectures, checks.signature)
+def one_architecture_missing(build):
+    thin = build.folder / "thin"
+    run("llvm-lipo", "-thin", "x86_64", str(build.executable), "-output", str(thin))
+    run("llvm-lipo", "-create", str(thin), "-output", str(build.executable))
     thin.unlink()
 
 
-@damage(checks.both_architectures, checks.minimum_version, checks.libraries, checks.classes)
-def one_architecture_too_many(made):
+@mutation(checks.both_architectures, checks.minimum_version, checks.libraries, checks.classes)
+def one_architecture_too_many(build):
     # i386, as the third in the list: a header, and nothing that it does.
-    data = bytearray(made.executable.read_bytes())
+    data = bytearray(build.executable.read_bytes())
     padding = -len(data) % 4096
     struct.pack_into(">I", data, 4, 3)
     struct.pack_into(">5I", data, 48, 7, 3, len(data) + padding, 4096, 12)
     data += bytes(padding) + struct.pack("<7I", 0xFEEDFACE, 7, 3, 2, 0, 0, 0) + bytes(4096 - 28)
-    made.executable.write_bytes(data)
+    build.executable.write_bytes(data)
 
 
-@damage(checks.minimum_version)
-def an_older_system_promised(made):
-    change_slice(made, "x86_64", lambda data: struct.pack_into("<I", data, command_at(data, 0x32) + 12, 11 << 16))
+@mutation(checks.minimum_version)
+def an_older_system_promised(build):
+    change_slice(build, "x86_64", lambda data: struct.pack_into("<I", data, command_at(data, 0x32) + 12, 11 << 16))
 
 
-@damage(checks.minimum_version, checks.signature)
-def a_newer_interface_claimed(made):
-    change_slice(made, "arm64", lambda data: struct.pack_into("<I", data, command_at(data, 0x32) + 16, 26 << 16))
+@mutation(checks.minimum_version, checks.signature)
+def a_newer_interface_claimed(build):
+    change_slice(build, "arm64", lambda data: struct.pack_into("<I", data, command_at(data, 0x32) + 16, 26 << 16))
 
 
-@damage(checks.libraries)
-def another_library(made):
+@mutation(checks.libraries)
+def another_library(build):
     def change(data):
         place = data.index(b"/usr/lib/libobjc.A.dylib")
         data[place : place + 24] = b"/usr/lib/libicuuc.dylib\0"
 
-    change_slice(made, "x86_64", change)
+    change_slice(build, "x86_64", change)
 
 
-@damage(checks.libraries)
-def a_library_more(made):
+@mutation(checks.libraries)
+def a_library_more(build):
     def change(architecture, part):
         if architecture == "x86_64":
             data = bytearray(part.read_bytes())
@@ -61,42 +61,42 @@ def a_library_more(made):
             struct.pack_into("<II", data, 16, count + 1, length + len(command))
             part.write_bytes(data)
 
-    remake(made, change)
+    remake(build, change)
 
 
-@damage(checks.search_paths)
-def a_search_path(made):
+@mutation(checks.search_paths)
+def a_search_path(build):
     def change(architecture, part):
         if architecture == "x86_64":
             run("llvm-install-name-tool", "-add_rpath", "/tmp", str(part))
 
-    remake(made, change)
+    remake(build, change)
 
 
-@damage(checks.classes)
-def classes_that_are_not_announced(made):
+@mutation(checks.classes)
+def classes_that_are_not_announced(build):
     def change(data):
         place = data.index(b"__objc_imageinfo")
         data[place : place + 16] = b"__objc_image_inf"
 
-    change_slice(made, "x86_64", change)
+    change_slice(build, "x86_64", change)
 
 
-@damage(checks.stripped)
-def inner_names(made):
+@mutation(checks.stripped)
+def inner_names(build):
     def change(data):
         place = unused_place(data)
         name = b"-[AppDelegate init]"
         data[place : place + len(name)] = name
 
-    change_slice(made, "x86_64", change)
+    change_slice(build, "x86_64", change)
 
 
-@damage(checks.stripped)
-def a_path_of_this_machine(made):
+@mutation(checks.stripped)
+def a_path_of_this_machine(build):
     def change(data):
         path = os.fsencode(PROJECT / "app")
         place = unused_place(data)
         data[place : place + len(path)] = path
 
-    change_slice(made, "x86_64", change)
+    change_slice(build, "x86_64", change)
