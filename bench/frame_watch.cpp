@@ -16,7 +16,7 @@ constexpr int windowWidth = 600;
 constexpr int windowHeight = 620;
 constexpr int stripTop = 30;
 constexpr int stripHeight = 40;
-constexpr std::chrono::seconds patience(20);
+constexpr std::chrono::seconds timeout(20);
 
 /// A window may be gone before it is asked about: no reason to end the run.
 int ignoreError(Display* /*display*/, XErrorEvent* /*error*/) {
@@ -84,7 +84,7 @@ FrameWatch::Clock::time_point FrameWatch::firstFrame() {
     const auto drawn = [this, looked = std::size_t{0}]() mutable {
         return std::exchange(looked, drawings_) != drawings_ && showsSomething();
     };
-    const bool seen = follow(Clock::now() + patience, drawn);
+    const bool seen = follow(Clock::now() + timeout, drawn);
     const Clock::time_point now = Clock::now();
     require(seen, "something is drawn into a window of 600 by 620");
     return now;
@@ -112,7 +112,7 @@ bool FrameWatch::showsSomething() const {
 
 std::size_t FrameWatch::untilStill(std::chrono::milliseconds quiet) {
     const std::size_t before = drawings_;
-    const Clock::time_point end = Clock::now() + patience;
+    const Clock::time_point end = Clock::now() + timeout;
     std::size_t seen = before;
     while (follow(Clock::now() + quiet, [this, seen] { return drawings_ != seen; })) {
         seen = drawings_;
@@ -128,7 +128,7 @@ std::size_t FrameWatch::drawingsWithin(std::chrono::milliseconds time) {
 }
 
 void FrameWatch::untilGone() {
-    require(follow(Clock::now() + patience, [this] { return !windows_.contains(watched_); }),
+    require(follow(Clock::now() + timeout, [this] { return !windows_.contains(watched_); }),
             "the window goes");
 }
 

@@ -15,7 +15,7 @@ namespace kelmar::bench {
 
 namespace {
 
-constexpr std::chrono::seconds patience(120);
+constexpr std::chrono::seconds timeout(120);
 
 /// Waits until the X server has done all that it was asked for.
 void finishDrawing() {
@@ -46,7 +46,7 @@ void PaintedApplication::watch(const AppDelegate& delegate, std::function<void()
 }
 
 void PaintedApplication::runUntil(const std::function<bool()>& enough) {
-    const Clock::time_point end = Clock::now() + patience;
+    const Clock::time_point end = Clock::now() + timeout;
     while (!enough()) {
         require(Clock::now() < end, "the window comes to where it should be");
         processEvents(QEventLoop::WaitForMoreEvents);

@@ -2,12 +2,13 @@
 // and prints the ratios of their medians. Takes the folder to build its trees in as its one
 // argument.
 
-#include "bench/child.hpp"
 #include "bench/pair_reporter.hpp"
 #include "bench/require.hpp"
 #include "discovery/scanner.hpp"
+#include "system/files/file_descriptor.hpp"
 #include "system/process/shell.hpp"
 #include "tests/support/mac_tree.hpp"
+#include "tests/support/spawn.hpp"
 
 #include <benchmark/benchmark.h>
 
@@ -79,19 +80,19 @@ void add(const std::string& name, int iterations, const std::function<void()>& s
 }
 
 void measureStartUp() {
-    add("1-start-up/ours", 50, [] { runChild({KELMAR_EXECUTABLE, "--help"}, true); });
-    add("1-start-up/beside", 50, [] { runChild({"/bin/true"}, true); });
+    add("1-start-up/ours", 50, [] { test::spawnAndWait({KELMAR_EXECUTABLE, "--help"}, true); });
+    add("1-start-up/beside", 50, [] { test::spawnAndWait({"/bin/true"}, true); });
 }
 
 void measureScan(const std::string& root) {
     const std::vector<std::string> folders = tenDataFolders(root);
     add("2-scan/ours", 5, [root] {
         ::setenv("KELMAR_UNINSTALLER_TEST_ROOT", root.c_str(), 1);
-        runChild({KELMAR_EXECUTABLE, "--scan"}, true);
+        test::spawnAndWait({KELMAR_EXECUTABLE, "--scan"}, true);
     });
     add("2-scan/beside", 5, [folders] {
         for (const std::string& folder : folders) {
-            runChild({"/usr/bin/du", "-sk", folder}, true);
+            test::spawnAndWait({"/usr/bin/du", "-sk", folder}, true);
         }
     });
 }
@@ -102,7 +103,7 @@ void measureOwnership(const std::string& root) {
     require(Scanner::ownedByMe(top), "the whole tree is ours");
     add("3-ownership/ours", 1, [top] { benchmark::DoNotOptimize(Scanner::ownedByMe(top)); });
     add("3-ownership/beside", 1, [top, user] {
-        runChild({"/usr/bin/find", top, "!", "-user", user, "-print", "-quit"}, true);
+        test::spawnAndWait({"/usr/bin/find", top, "!", "-user", user, "-print", "-quit"}, true);
     });
 }
 
@@ -117,11 +118,10 @@ public:
         for (int folder = 0; folder < 2000; ++folder) {
             const std::string path = store + "/" + std::to_string(folder);
             std::filesystem::create_directories(path);
-            const int descriptor = ::open(path.c_str(), O_RDONLY | O_DIRECTORY);
+            const FileDescriptor opened(::open(path.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC));
             for (int file = 0; file < 100; ++file) {
-                ::mknodat(descriptor, std::to_string(file).c_str(), S_IFREG | 0600, 0);
+                ::mknodat(opened.get(), std::to_string(file).c_str(), S_IFREG | 0600, 0);
             }
-            ::close(descriptor);
         }
     }
 
@@ -151,10 +151,10 @@ void measureRemoval(const std::string& root) {
     const Rubbish rubbish(root);
     addRemoval("5-removal/ours", rubbish, [root] {
         ::setenv("KELMAR_UNINSTALLER_TEST_ROOT", root.c_str(), 1);
-        runChild({KELMAR_EXECUTABLE, "--uninstall", "--delete-data"}, true);
+        test::spawnAndWait({KELMAR_EXECUTABLE, "--uninstall", "--delete-data"}, true);
     });
     addRemoval("5-removal/beside", rubbish, [root] {
-        runChild({"/bin/rm", "-rf", root + "/home/Kelmar"}, true);
+        test::spawnAndWait({"/bin/rm", "-rf", root + "/home/Kelmar"}, true);
     });
 }
 
@@ -185,21 +185,21 @@ void measureSmallRun(const std::string& root) {
     const KelmarPaths paths = tree.paths();
     addSmall("6-small-run/ours", [root] {
         ::setenv("KELMAR_UNINSTALLER_TEST_ROOT", root.c_str(), 1);
-        runChild({KELMAR_EXECUTABLE, "--uninstall", "--delete-data"}, true);
+        test::spawnAndWait({KELMAR_EXECUTABLE, "--uninstall", "--delete-data"}, true);
     });
     addSmall("6-small-run/beside", [paths, root] {
         const std::string status = root + "/status/file";
         std::filesystem::create_directories(root + "/status");
         std::ofstream(status).close();
-        runChild({"/bin/bash", KELMAR_SCRIPT, "--status", status, "--all-users", "--test-root",
-                  paths.systemRoot},
-                 true);
+        test::spawnAndWait({"/bin/bash", KELMAR_SCRIPT, "--status", status, "--all-users",
+                            "--test-root", paths.systemRoot},
+                           true);
         for (const std::string& path :
              {paths.services(Scope::me), paths.temporaryDirectory + "/Kelmar",
               paths.temporaryDirectory + "/Kelmar_temp",
               paths.temporaryDirectory + "/sd-soffice-diagram",
               paths.dataRoot(Scope::me) + "/Store", paths.dataRoot(Scope::me)}) {
-            runChild({"/bin/rm", "-rf", "--", path}, true);
+            test::spawnAndWait({"/bin/rm", "-rf", "--", path}, true);
         }
     });
 }
@@ -207,7 +207,7 @@ void measureSmallRun(const std::string& root) {
 void measureShell() {
     require(Shell::run("/bin/true", {}).status == 0, "/bin/true runs");
     add("4-shell/ours", 100, [] { Shell::run("/bin/true", {}); });
-    add("4-shell/beside", 100, [] { runChild({"/bin/true"}, false); });
+    add("4-shell/beside", 100, [] { test::spawnAndWait({"/bin/true"}, false); });
 }
 
 } // namespace

@@ -2,25 +2,25 @@
 // first frame and the memory, the two in random alternation, and what it takes while nothing
 // happens. Takes a sample Mac's folder as its one argument.
 
-#include "bench/child.hpp"
 #include "bench/frame_watch.hpp"
 #include "bench/pair_table.hpp"
 #include "bench/process_figures.hpp"
 #include "bench/require.hpp"
-#include "bench/virtual_screen.hpp"
+#include "tests/support/background_program.hpp"
+#include "tests/support/desktop_session.hpp"
 
 #include <algorithm>
 #include <array>
-#include <csignal>
 #include <cstdio>
 #include <cstdlib>
 #include <functional>
+#include <optional>
 #include <random>
 #include <string>
+#include <utility>
 #include <vector>
 
-#include <sys/wait.h>
-#include <unistd.h>
+#include <sys/types.h>
 
 namespace kelmar::bench {
 namespace {
@@ -33,15 +33,14 @@ public:
     WindowProgram(FrameWatch& watch, const std::string& program)
         : watch_(watch),
           started_(FrameWatch::Clock::now()),
-          process_(startChild({program}, true)),
+          program_(std::in_place, program, std::vector<std::string>{}),
           firstFrame_(watch_.firstFrame()) {}
 
     WindowProgram(const WindowProgram&) = delete;
     WindowProgram& operator=(const WindowProgram&) = delete;
 
     ~WindowProgram() {
-        ::kill(process_, SIGKILL);
-        ::waitpid(process_, nullptr, 0);
+        program_.reset();
         watch_.untilGone();
     }
 
@@ -49,12 +48,12 @@ public:
         return std::chrono::duration<double, std::milli>(firstFrame_ - started_).count();
     }
 
-    [[nodiscard]] pid_t process() const { return process_; }
+    [[nodiscard]] pid_t process() const { return program_->process(); }
 
 private:
     FrameWatch& watch_;
     FrameWatch::Clock::time_point started_;
-    pid_t process_;
+    std::optional<test::BackgroundProgram> program_;
     FrameWatch::Clock::time_point firstFrame_;
 };
 
@@ -139,7 +138,8 @@ int main(int count, char** arguments) {
         return EXIT_FAILURE;
     }
     ::setenv("KELMAR_UNINSTALLER_TEST_ROOT", arguments[1], 1);
-    const VirtualScreen screen;
+    const kelmar::test::XServer server(1280, 900);
+    kelmar::test::leaveDesktopFor(server);
     FrameWatch watch;
     printTableHead();
     measureStart(watch);

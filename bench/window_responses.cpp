@@ -6,7 +6,7 @@
 #include "bench/pair_table.hpp"
 #include "bench/process_figures.hpp"
 #include "bench/require.hpp"
-#include "bench/virtual_screen.hpp"
+#include "tests/support/desktop_session.hpp"
 #include "tests/support/mac_tree.hpp"
 #include "tests/support/scripted_runner.hpp"
 #include "ui/qt/dispatcher.hpp"
@@ -265,7 +265,8 @@ int main(int count, char** arguments) {
         return EXIT_FAILURE;
     }
     const kelmar::KelmarPaths paths = kelmar::test::MacTree(arguments[1]).paths();
-    const VirtualScreen screen;
+    const kelmar::test::XServer server(1280, 900);
+    kelmar::test::leaveDesktopFor(server);
     int noArguments = 1;
     PaintedApplication application(noArguments, arguments);
     QApplication::setQuitOnLastWindowClosed(false);

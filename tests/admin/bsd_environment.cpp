@@ -13,9 +13,9 @@ namespace {
 class MacsTools : public testing::Environment {
 public:
     void SetUp() override {
-        if (const auto obstacle = BsdUserland::obstacle()) {
+        if (const auto reason = BsdUserland::skipReason()) {
             // The mark by which ctest knows a skipped test; GoogleTest prints it for tests alone.
-            GTEST_SKIP() << "[  SKIPPED ] " << *obstacle;
+            GTEST_SKIP() << "[  SKIPPED ] " << *reason;
         }
         userland_ = std::make_unique<BsdUserland>();
         userland_->share(std::filesystem::temp_directory_path());

@@ -29,8 +29,8 @@ protected:
     static constexpr const char* status = "/var/folders/xy/T/run 1/status";
 
     void SetUp() override {
-        if (const auto obstacle = BsdUserland::obstacle()) {
-            GTEST_SKIP() << *obstacle;
+        if (const auto reason = BsdUserland::skipReason()) {
+            GTEST_SKIP() << *reason;
         }
         userland = std::make_unique<BsdUserland>();
         std::filesystem::copy_file(KELMAR_SCRIPT, userland->outside(script));

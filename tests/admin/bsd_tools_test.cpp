@@ -22,12 +22,12 @@ std::ostream& operator<<(std::ostream& stream, const Call& call) {
     return stream;
 }
 
-/// The stand-ins themselves: that they would refuse what a Mac's tools don't know.
-class StandIn : public testing::TestWithParam<Call> {
+/// The fakes themselves: that they would refuse what a Mac's tools don't know.
+class FakeTool : public testing::TestWithParam<Call> {
 protected:
     void SetUp() override {
-        if (const auto obstacle = test::BsdUserland::obstacle()) {
-            GTEST_SKIP() << *obstacle;
+        if (const auto reason = test::BsdUserland::skipReason()) {
+            GTEST_SKIP() << *reason;
         }
         userland = std::make_unique<test::BsdUserland>();
         std::filesystem::create_directory(userland->outside("/folder"));
@@ -40,11 +40,13 @@ protected:
     std::unique_ptr<test::BsdUserland> userland;
 };
 
-class StandInForMac : public StandIn {};
+/// A call that macOS documents.
+class MacOsCall : public FakeTool {};
 
-class StandInForLinux : public StandIn {};
+/// A call that GNU's tools alone know, or that the fakes don't imitate.
+class GnuCall : public FakeTool {};
 
-TEST_P(StandInForMac, Takes) {
+TEST_P(MacOsCall, IsAccepted) {
     const test::ProgramEnd end = call();
     EXPECT_EQ(end.status, 0);
     EXPECT_EQ(end.error, "");
@@ -52,7 +54,7 @@ TEST_P(StandInForMac, Takes) {
     EXPECT_EQ(userland->refusals(), std::vector<std::string>{});
 }
 
-TEST_P(StandInForLinux, Refuses) {
+TEST_P(GnuCall, IsRefused) {
     const auto before = std::filesystem::last_write_time(userland->outside("/"));
     const test::ProgramEnd end = call();
     EXPECT_EQ(end.status, 64);
@@ -66,7 +68,7 @@ TEST_P(StandInForLinux, Refuses) {
 }
 
 INSTANTIATE_TEST_SUITE_P(
-    Forms, StandInForMac,
+    Forms, MacOsCall,
     testing::Values(
         Call{"/bin/ls", {"-ldn", "--", "/folder"}}, Call{"/bin/ls", {"-A", "/folder"}},
         Call{"/bin/mkdir", {"-m", "700", "/new"}}, Call{"/bin/chmod", {"-N", "/folder"}},
@@ -85,7 +87,7 @@ INSTANTIATE_TEST_SUITE_P(
              {"/folder", "!", "-user", "501", "-prune", "-execdir", "/mnt/gnu/true", "{}", ";"}}));
 
 INSTANTIATE_TEST_SUITE_P(
-    Forms, StandInForLinux,
+    Forms, GnuCall,
     testing::Values(
         Call{"/bin/ls", {"--color=never", "/folder"}}, Call{"/bin/ls", {"-ldn", "/folder", "-A"}},
         Call{"/bin/ls", {"-lZ", "/folder"}}, Call{"/bin/mkdir", {"--mode=700", "/new"}},

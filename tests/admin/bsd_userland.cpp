@@ -1,6 +1,6 @@
 #include "tests/admin/bsd_userland.hpp"
 
-#include "tests/support/can_be_made.hpp"
+#include "tests/support/can_be_constructed.hpp"
 #include "tests/support/lines.hpp"
 
 #include <algorithm>
@@ -24,7 +24,7 @@ const std::map<std::string, std::vector<std::string>> toolsByFolder{
     {"/usr/bin", {"env", "find", "id", "readlink", "sort", "tr", "uname"}},
     {"/usr/sbin", {"pkgutil"}}};
 
-/// Tools that a script may reach for, and that have no stand-in. A call of one is told even if its
+/// Tools that a script may reach for, and that have no fake. A call of one is told even if its
 /// message goes nowhere, as that of a tool that is not there at all would not be.
 constexpr const char* strangers[] = {
     "awk",      "basename", "cat",     "chflags", "chown", "cp",    "cut",    "date",
@@ -33,7 +33,7 @@ constexpr const char* strangers[] = {
     "realpath", "sed",      "seq",     "stat",    "su",    "sudo",  "tail",   "tee",
     "test",     "timeout",  "touch",   "uniq",    "wc",    "which", "xargs"};
 
-/// Where this machine has its libraries, of which bash and the stand-ins' own tools need some.
+/// Where this machine has its libraries, of which bash and the fakes' own tools need some.
 constexpr const char* libraryFolders[] = {"/usr/lib", "/usr/lib64", "/lib", "/lib64"};
 
 void write(const std::string& path, const std::string& text, int permissions) {
@@ -44,14 +44,14 @@ void write(const std::string& path, const std::string& text, int permissions) {
 
 } // namespace
 
-std::optional<std::string> BsdUserland::obstacle() {
+std::optional<std::string> BsdUserland::skipReason() {
     if (::getuid() != 0) {
         return "a Mac's tools need mounts of their own, and so root";
     }
     if (!fs::is_symlink("/bin") || !fs::exists("/usr/bin/setpriv")) {
         return "a Mac's tools are made of this machine's in /usr/bin, and not all are there";
     }
-    static const bool works = canBeMade<BsdUserland>();
+    static const bool works = canBeConstructed<BsdUserland>();
     return works ? std::nullopt
                  : std::optional<std::string>("this machine lets nobody mount anything");
 }
@@ -79,17 +79,17 @@ BsdUserland::BsdUserland() : root_(folder_ / "root") {
 }
 
 void BsdUserland::addTools() const {
-    const std::string standIns = KELMAR_BSD_STAND_INS;
-    fs::copy_file(standIns + "/support.sh", outside("/mnt/support.sh"));
+    const std::string fakes = KELMAR_BSD_FAKES;
+    fs::copy_file(fakes + "/support.sh", outside("/mnt/support.sh"));
     for (const auto& [place, names] : toolsByFolder) {
         fs::create_directories(outside(place));
         for (const std::string& name : names) {
-            fs::copy_file(standIns + "/" + name, outside(place + "/" + name));
+            fs::copy_file(fakes + "/" + name, outside(place + "/" + name));
         }
     }
     // Not /bin/bash of this machine: that may be taken over already.
     fs::copy_file(outside("/mnt/gnu/bash"), outside("/bin/bash"));
-    fs::copy_file(standIns + "/unknown", outside("/mnt/unknown"));
+    fs::copy_file(fakes + "/unknown", outside("/mnt/unknown"));
     for (const char* const name : strangers) {
         fs::create_symlink("/mnt/unknown", outside("/usr/sbin/") + name);
     }

@@ -10,14 +10,14 @@
 
 namespace kelmar::test {
 
-/// A root folder whose tools are the stand-ins of tests/admin/bsd: they take what macOS's manual
+/// A root folder whose tools are the fakes of tests/admin/bsd: they take what macOS's manual
 /// pages document, refuse everything else, and write both down. There is bash, this machine's, and
 /// no /proc. Its mounts are in a mount namespace of this process, so that nothing outside sees
 /// them; what is made in it are ordinary files, which this process sees at `outside(path)`.
 class BsdUserland {
 public:
     /// Why this machine can't have one, if it can't.
-    static std::optional<std::string> obstacle();
+    static std::optional<std::string> skipReason();
 
     BsdUserland();
     BsdUserland(const BsdUserland&) = delete;
@@ -32,7 +32,7 @@ public:
     /// Mounts an empty disk over a folder in there.
     void mountDisk(const std::string& path);
 
-    /// Something that the stand-ins look for; see tests/admin/bsd/support.sh.
+    /// Something that the fakes look for; see tests/admin/bsd/support.sh.
     void setState(const std::string& name, const std::string& text = "") const;
 
     /// A program in there, as root and with this process's environment.
@@ -42,7 +42,7 @@ public:
     /// In this process's mount namespace, lets whoever runs /bin/bash run the one in there.
     void takeOverBash();
 
-    /// What the stand-ins were called with so far, one line each: "rm <-rf> <--> <./x>".
+    /// The calls of the fakes so far, one line each: "rm <-rf> <--> <./x>".
     [[nodiscard]] std::vector<std::string> calls() const;
 
     /// What they refused, one line each; empty: everything was such as a Mac's tools know it.

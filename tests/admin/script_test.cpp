@@ -147,7 +147,7 @@ TEST_F(Script, WhatCannotBeRemovedFailsInRmsWords) {
     tree.everything();
     const test::Unremovable locked(system("/Library/Kelmar/lib/models.conf"));
     if (!locked.works()) {
-        GTEST_SKIP() << test::Unremovable::obstacle;
+        GTEST_SKIP() << test::Unremovable::skipReason;
     }
     const Lines lines = run({"--all-users"});
     ASSERT_EQ(lines.size(), 9U);

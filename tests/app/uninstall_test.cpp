@@ -1,4 +1,6 @@
+#include "system/files/file_descriptor.hpp"
 #include "tests/support/mac_tree.hpp"
+#include "tests/support/pipe.hpp"
 #include "tests/support/program.hpp"
 #include "tests/support/snapshot.hpp"
 #include "tests/support/temporary_folder.hpp"
@@ -72,7 +74,7 @@ TEST_F(UninstallOption, NamesWhatStayedWithTheTildeForm) {
     tree.dataFolder(Scope::me, "Store", 100).dataFolder(Scope::me, "Logs", 100);
     const test::Unremovable locked(tree.paths().home + "/Kelmar/Store/part-0");
     if (!locked.works()) {
-        GTEST_SKIP() << test::Unremovable::obstacle;
+        GTEST_SKIP() << test::Unremovable::skipReason;
     }
     const test::ProgramEnd end = uninstall("--delete-data");
     EXPECT_EQ(end.status, 1);
@@ -90,19 +92,16 @@ TEST_F(UninstallOption, NamesWhatStayedWithTheTildeForm) {
 }
 
 TEST_F(UninstallOption, OutputThatGoesNowhereStopsNothing) {
-    for (const char* const sink : {"/dev/full", "closed pipe"}) {
+    for (const bool isDiskFull : {true, false}) {
         tree.everything();
         test::Program program = test::uninstaller({"--uninstall", "--delete-data"}, folder / "t");
-        program.inChild = [sink] {
-            int ends[2] = {-1, -1};
-            if (*sink == '/') {
-                ends[1] = ::open(sink, O_WRONLY);
-            } else if (::pipe(ends) == 0) {
-                ::close(ends[0]);
-            }
-            ::dup2(ends[1], STDOUT_FILENO);
+        program.inChild = [isDiskFull] {
+            const test::Pipe unread = test::makePipe();
+            const FileDescriptor full(::open("/dev/full", O_WRONLY | O_CLOEXEC));
+            ::dup2(isDiskFull ? full.get() : unread.writeEnd.get(), STDOUT_FILENO);
         };
-        EXPECT_EQ(program.run().status, 0) << sink;
+        EXPECT_EQ(program.run().status, 0)
+            << (isDiskFull ? "a full disk" : "a pipe without a reader");
         EXPECT_EQ(uninstall("--delete-data").output,
                   "Kelmar isn't on this Mac; nothing to remove.\n");
         EXPECT_TRUE(std::filesystem::is_empty(tree.paths().temporaryDirectory));

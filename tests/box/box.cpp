@@ -1,6 +1,6 @@
 #include "tests/box/box.hpp"
 
-#include "tests/support/can_be_made.hpp"
+#include "tests/support/can_be_constructed.hpp"
 #include "tests/support/lines.hpp"
 
 #include <cerrno>
@@ -38,11 +38,11 @@ std::string flat(std::string name) {
 
 } // namespace
 
-std::optional<std::string> Box::obstacle() {
+std::optional<std::string> Box::skipReason() {
     if (::getuid() != 0) {
         return "a pretend Mac needs mounts of its own, and so root";
     }
-    return canBeMade<Box>()
+    return canBeConstructed<Box>()
                ? std::nullopt
                : std::optional<std::string>("this machine lets nobody mount an overlay");
 }
@@ -61,11 +61,11 @@ Box::Box() : root_(folder_ / "root") {
                                    "/usr/bin/defaults", "/usr/bin/tccutil"}) {
         const std::string place = outside(tool);
         fs::remove(place);
-        fs::copy_file(std::string(KELMAR_STAND_INS) + "/" + fs::path(tool).filename().native(),
+        fs::copy_file(std::string(KELMAR_FAKE_TOOLS) + "/" + fs::path(tool).filename().native(),
                       place);
         fs::permissions(place, fs::perms(0755));
     }
-    write(outside("/box/asked"), "", fs::perms(0666));
+    write(outside("/box/calls"), "", fs::perms(0666));
     write(outside("/etc/passwd"), "ann:x:501:501:Ann:/Users/ann/:/bin/sh\n", fs::perms(0644));
     fs::create_directories(outside("/box/bin"));
     const fs::path executable = test::uninstaller({}, {}).path;
@@ -113,8 +113,8 @@ void Box::set(const std::string& path, const std::string& text) const {
 }
 
 void Box::addReceipt(const std::string& identifier, const std::string& volume,
-                     const std::string& hitch) const {
-    set("/box/receipts/" + flat(volume) + "/" + identifier, hitch);
+                     const std::string& error) const {
+    set("/box/receipts/" + flat(volume) + "/" + identifier, error);
 }
 
 void Box::addService(const std::string& label, const std::string& plist) const {
@@ -187,8 +187,8 @@ Program Box::uninstaller(const std::vector<std::string>& arguments) const {
     return program;
 }
 
-std::vector<std::string> Box::asked() const {
-    return linesOfFile(outside("/box/asked"));
+std::vector<std::string> Box::calls() const {
+    return linesOfFile(outside("/box/calls"));
 }
 
 } // namespace kelmar::test

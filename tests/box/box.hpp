@@ -18,12 +18,12 @@ namespace kelmar::test {
 
 /// A pretend Mac: this machine's file system with a layer over it, in a mount namespace of this
 /// process, so that nothing outside sees what happens in it. At the paths of macOS's tools stand
-/// stand-ins that write down what they are asked and answer from state in /box; an ordinary user
-/// has a home folder. The real executable runs in it, on the real paths.
+/// fakes that record their calls and answer from state in /box; an ordinary user has a home folder.
+/// The real executable runs in it, on the real paths.
 class Box {
 public:
     /// Why this machine can't have a box, if it can't.
-    static std::optional<std::string> obstacle();
+    static std::optional<std::string> skipReason();
 
     static constexpr uid_t user = 501;
 
@@ -40,13 +40,13 @@ public:
     [[nodiscard]] MacTree tree() const;
     void chownToUser(const std::string& path) const;
 
-    /// With a `hitch`, the receipt can't be forgotten, and pkgutil says the hitch.
+    /// With an `error`, the receipt can't be forgotten, and pkgutil prints the error.
     void addReceipt(const std::string& identifier, const std::string& volume,
-                    const std::string& hitch = "") const;
+                    const std::string& error = "") const;
     void addService(const std::string& label, const std::string& plist) const;
     void addKeychainItem(const std::string& service, const std::string& item = "item") const;
 
-    /// Puts a file into the box, for everyone to change: state of the stand-ins.
+    /// Puts a file into the box, for everyone to change: state of the fake tools.
     void set(const std::string& path, const std::string& text = "") const;
 
     /// A program in the box that answers sudo's question for a password; `script` prints the
@@ -74,8 +74,8 @@ public:
     /// The uninstaller in the box, started by its user without the test-root variable.
     [[nodiscard]] Program uninstaller(const std::vector<std::string>& arguments) const;
 
-    /// What the stand-ins were asked so far, one command line each, in order.
-    [[nodiscard]] std::vector<std::string> asked() const;
+    /// The calls of the fake tools so far, one command line each, in order.
+    [[nodiscard]] std::vector<std::string> calls() const;
 
 private:
     void letUserBecomeRoot() const;

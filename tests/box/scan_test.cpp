@@ -20,8 +20,8 @@ using test::ProgramEnd;
 class ScanOfAPretendMac : public testing::Test {
 protected:
     void SetUp() override {
-        if (const auto obstacle = Box::obstacle()) {
-            GTEST_SKIP() << *obstacle;
+        if (const auto reason = Box::skipReason()) {
+            GTEST_SKIP() << *reason;
         }
         box = std::make_unique<Box>();
     }
@@ -39,7 +39,7 @@ protected:
 TEST_F(ScanOfAPretendMac, AsksTheSystemsToolsExactlyTheseQuestions) {
     EXPECT_EQ(listing(), "Kelmar isn't on this Mac.\n");
     EXPECT_EQ(
-        box->asked(),
+        box->calls(),
         (Lines{"/usr/sbin/pkgutil <--pkg-info> <com.kelmar.pkg.app>",
                "/usr/sbin/pkgutil <--pkg-info> <com.kelmar.pkg.backend>",
                "/usr/sbin/pkgutil <--pkg-info> <com.kelmar.pkg.app> <--volume> </Users/ann>",

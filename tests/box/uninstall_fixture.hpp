@@ -19,8 +19,8 @@ protected:
     using Lines = std::vector<std::string>;
 
     void SetUp() override {
-        if (const auto obstacle = Box::obstacle()) {
-            GTEST_SKIP() << *obstacle;
+        if (const auto reason = Box::skipReason()) {
+            GTEST_SKIP() << *reason;
         }
         box = std::make_unique<Box>();
         box->answerPasswordWith(std::string("echo '") + Box::password + "'\n");
@@ -51,9 +51,9 @@ protected:
         return box->uninstaller({"--uninstall", data}).run();
     }
 
-    /// What the stand-ins were asked, without the scans' questions that only look.
+    /// The calls of the fake tools without those of the scans, which change nothing.
     [[nodiscard]] Lines commands() const {
-        Lines lines = box->asked();
+        Lines lines = box->calls();
         lines.erase(std::remove_if(lines.begin(), lines.end(),
                                    [](const std::string& line) {
                                        return line.find("<find-generic-password>") !=

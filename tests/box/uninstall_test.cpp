@@ -64,7 +64,7 @@ TEST_F(UninstallOnAPretendMac, RemovesEverythingAndSaysSo) {
 TEST_F(UninstallOnAPretendMac, AsksTheSystemsToolsExactlyThisInThisOrder) {
     installEverything();
     EXPECT_EQ(uninstall("--delete-data").status, 0);
-    const Lines asked = box->asked();
+    const Lines calls = box->calls();
     const Lines scan{
         "/usr/sbin/pkgutil <--pkg-info> <com.kelmar.pkg.app>",
         "/usr/sbin/pkgutil <--pkg-info> <com.kelmar.pkg.backend>",
@@ -84,9 +84,9 @@ TEST_F(UninstallOnAPretendMac, AsksTheSystemsToolsExactlyThisInThisOrder) {
          "/bin/launchctl <bootout> <gui/501/com.kelmar.worker>",
          "/usr/bin/tccutil <reset> <All> <com.quobrintal.app>"});
     // The script asks the domain of everybody who is logged in.
-    ASSERT_GT(asked.size(), expected.size());
-    EXPECT_TRUE(std::equal(expected.begin(), expected.end(), asked.begin()));
-    Lines rest(asked.begin() + static_cast<std::ptrdiff_t>(expected.size()), asked.end());
+    ASSERT_GT(calls.size(), expected.size());
+    EXPECT_TRUE(std::equal(expected.begin(), expected.end(), calls.begin()));
+    Lines rest(calls.begin() + static_cast<std::ptrdiff_t>(expected.size()), calls.end());
     const auto isScriptsQuestion = [](const std::string& line) {
         return line.starts_with("/bin/launchctl <print> <gui/");
     };
@@ -163,7 +163,7 @@ TEST_F(UninstallOnAPretendMac, UnderATestRootNothingIsAskedOfTheSystemAndNoPassw
     program.environment["KELMAR_UNINSTALLER_TEST_ROOT"] = "/box/test";
     const ProgramEnd end = program.run();
     EXPECT_EQ(end.status, 0) << end.output;
-    EXPECT_EQ(box->asked(), Lines{});
+    EXPECT_EQ(box->calls(), Lines{});
     EXPECT_FALSE(isThere("/box/asked-for-password"));
     EXPECT_FALSE(isThere("/box/test/system/Applications/Kelmar.app"));
     EXPECT_TRUE(isThere("/Applications/Kelmar.app"));

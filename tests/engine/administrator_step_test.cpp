@@ -96,9 +96,9 @@ TEST(MySelectedData, IsThatOfTheUsersOwnRoot) {
 
 class AdministratorStep : public testing::Test {
 protected:
-    AdministratorOutcome run(const test::ScriptedRunner::Play& play,
+    AdministratorOutcome run(const test::ScriptedRunner::Behaviour& behaviour,
                              const std::optional<KelmarPaths>& other = {}) {
-        runner = std::make_shared<test::ScriptedRunner>(play);
+        runner = std::make_shared<test::ScriptedRunner>(behaviour);
         Uninstaller engine(other.value_or(tree.paths()), {}, {}, runner);
         engine.emit = transcript.emit();
         const AdministratorOutcome outcome = engine.runAsAdministrator({"--all-users"});

@@ -63,7 +63,7 @@ TEST_F(Removal, WhatStaysIsAFailureWithTheFirstLineOfRmsWords) {
     const test::Unremovable first(home("/Kelmar/Store/a/x"));
     const test::Unremovable second(home("/Kelmar/Store/b/y"));
     if (!first.works() || !second.works()) {
-        GTEST_SKIP() << test::Unremovable::obstacle;
+        GTEST_SKIP() << test::Unremovable::skipReason;
     }
     engine.remove(home("/Kelmar/Store"));
     ASSERT_EQ(engine.failures.size(), 1U);

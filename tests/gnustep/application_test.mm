@@ -1,8 +1,8 @@
 #include "system/text/foundation_text_macos.hpp"
 #include "tests/gnustep/harness/application_fixture.hpp"
+#include "tests/gnustep/harness/dirty_region.hpp"
 #include "tests/gnustep/harness/input.hpp"
-#include "tests/gnustep/harness/painting.hpp"
-#include "tests/gnustep/harness/pictures.hpp"
+#include "tests/gnustep/harness/screenshot.hpp"
 #include "tests/support/snapshot.hpp"
 
 #include <filesystem>
@@ -47,11 +47,11 @@ TEST_F(WholeRun, UninstallsAfterTheQuestion) {
     EXPECT_GT(before.size(), 50U) << testing::PrintToString(before);
     launchAndFind();
     askToUninstall();
-    test::takePicture([[question() window] contentView], "question");
+    test::saveScreenshot([[question() window] contentView], "question");
     EXPECT_EQ(files(), before) << "nothing is done before the answer";
     answerWith("Uninstall and Delete Data");
     ASSERT_TRUE(waitFor("Kelmar has been removed"));
-    test::takePicture(content(), "whole-run");
+    test::saveScreenshot(content(), "whole-run");
     EXPECT_EQ(question(), nil);
     EXPECT_EQ(files(), (Files{"/home/Kelmar/.DS_Store", "/home/Kelmar/notes.txt"}));
     EXPECT_TRUE(shows("Kept ~/Kelmar, which still holds notes.txt."));
@@ -71,13 +71,13 @@ TEST_F(WholeRun, DoesNothingWhenTheQuestionIsCancelled) {
 }
 
 TEST_F(WholeRun, TouchesTheViewsOnTheMainThreadOnly) {
-    const test::Painting painting;
+    const test::DirtyRegion dirty;
     launchAndFind();
     askToUninstall();
     answerWith("Uninstall and Delete Data");
     ASSERT_TRUE(waitFor("Kelmar has been removed"));
-    EXPECT_FALSE(NSIsEmptyRect(painting.place()));
-    EXPECT_EQ(painting.fromElsewhere(), 0);
+    EXPECT_FALSE(NSIsEmptyRect(dirty.bounds()));
+    EXPECT_EQ(dirty.fromOtherThreads(), 0);
 }
 
 TEST_F(WholeRun, LeavesTheRecordToBeReadAndCopied) {

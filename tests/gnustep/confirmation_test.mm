@@ -1,8 +1,8 @@
 #include "system/text/foundation_text_macos.hpp"
 #include "tests/gnustep/harness/input.hpp"
 #include "tests/gnustep/harness/page_fixture.hpp"
+#include "tests/gnustep/harness/run_loop.hpp"
 #include "tests/gnustep/harness/sample_pages.hpp"
-#include "tests/gnustep/harness/turning.hpp"
 #include "ui/appkit/confirmation.h"
 
 /// What the toolkit calls.
@@ -13,8 +13,8 @@
 namespace kelmar {
 namespace {
 
-using test::asking;
-using Asked = std::vector<std::string>;
+using test::recorded;
+using test::RecordedActions;
 
 /// The question over a window. The parameter: whether a sheet that is taken away tells so in a
 /// later turn, since the reference leaves it open.
@@ -75,22 +75,23 @@ TEST_P(Sheet, IsNotBegunInsideTheCallThatAsksForIt) {
 TEST_P(Sheet, AnswersWithTheActionOfItsButton) {
     ask();
     test::click(button(0));
-    EXPECT_EQ(asked, Asked{asking(Action::uninstall)});
+    EXPECT_EQ(recordedActions, RecordedActions{recorded(Action::uninstall)});
     EXPECT_EQ(question(), nil);
     EXPECT_EQ([sheet alert], nil);
     ask();
     test::click(button(1));
-    EXPECT_EQ(asked, (Asked{asking(Action::uninstall), asking(Action::dismissConfirmation)}));
+    EXPECT_EQ(recordedActions, (RecordedActions{recorded(Action::uninstall),
+                                                recorded(Action::dismissConfirmation)}));
 }
 
 TEST_P(Sheet, IsCancelledByReturnAndByEscape) {
     for (const char* const key : {"Return", "Escape"}) {
-        asked.clear();
+        recordedActions.clear();
         ask();
         test::press(key);
-        EXPECT_TRUE(test::eventually([this] { return !asked.empty(); })) << key;
+        EXPECT_TRUE(test::eventually([this] { return !recordedActions.empty(); })) << key;
         test::settle();
-        EXPECT_EQ(asked, Asked{asking(Action::dismissConfirmation)}) << key;
+        EXPECT_EQ(recordedActions, RecordedActions{recorded(Action::dismissConfirmation)}) << key;
         EXPECT_EQ(question(), nil) << key;
     }
 }
@@ -100,7 +101,7 @@ TEST_P(Sheet, DoesNothingForOtherKeys) {
     for (const char* const key : {"a", "Delete", "u"}) {
         test::press(key);
     }
-    EXPECT_EQ(asked, Asked{});
+    EXPECT_EQ(recordedActions, RecordedActions{});
     EXPECT_NE(question(), nil);
 }
 
@@ -108,11 +109,11 @@ TEST_P(Sheet, TakesNoCodeButAButtonsForAnAnswer) {
     for (const NSInteger code :
          {NSInteger(NSModalResponseAbort), NSInteger(NSModalResponseStop), NSInteger(0),
           NSInteger(1), NSInteger(999), NSInteger(1002), NSInteger(-1)}) {
-        asked.clear();
+        recordedActions.clear();
         ask();
         [window endSheet:[question() window] returnCode:code];
         test::settle();
-        EXPECT_EQ(asked, Asked{asking(Action::dismissConfirmation)}) << code;
+        EXPECT_EQ(recordedActions, RecordedActions{recorded(Action::dismissConfirmation)}) << code;
         EXPECT_EQ(question(), nil);
     }
 }
@@ -123,7 +124,8 @@ TEST_P(Sheet, GoesWhenThePageAsksNoMore) {
     test::settle();
     EXPECT_EQ(question(), nil);
     EXPECT_EQ([sheet alert], nil);
-    EXPECT_EQ(std::count(asked.begin(), asked.end(), asking(Action::uninstall)), 0);
+    EXPECT_EQ(
+        std::count(recordedActions.begin(), recordedActions.end(), recorded(Action::uninstall)), 0);
     [sheet render:std::nullopt];
     EXPECT_TRUE([window isVisible]);
 }
@@ -133,7 +135,7 @@ TEST_P(Sheet, ThatIsTakenBackBeforeItHasBegunIsNeverSeen) {
     [sheet render:std::nullopt];
     test::settle();
     EXPECT_EQ(question(), nil);
-    EXPECT_EQ(asked, Asked{});
+    EXPECT_EQ(recordedActions, RecordedActions{});
     ask();
     EXPECT_NE(question(), nil);
 }
@@ -149,7 +151,7 @@ TEST_P(Sheet, ChangesItsTextsInPlace) {
     EXPECT_EQ(question(), before);
     EXPECT_EQ(plainText([question() messageText]), other.title);
     EXPECT_EQ(plainText([question() informativeText]), "a \uFFFD name");
-    EXPECT_EQ(asked, Asked{});
+    EXPECT_EQ(recordedActions, RecordedActions{});
 }
 
 TEST_P(Sheet, AnswersOnce) {
@@ -159,7 +161,7 @@ TEST_P(Sheet, AnswersOnce) {
     [window endSheet:[alert window] returnCode:NSAlertFirstButtonReturn];
     [sheet render:std::nullopt];
     test::settle();
-    EXPECT_EQ(asked, Asked{asking(Action::dismissConfirmation)});
+    EXPECT_EQ(recordedActions, RecordedActions{recorded(Action::dismissConfirmation)});
 }
 
 TEST_P(Sheet, TakesNoAnswerToAnEarlierQuestion) {
@@ -167,9 +169,9 @@ TEST_P(Sheet, TakesNoAnswerToAnEarlierQuestion) {
     KelmarAlert* const earlier = [[question() retain] autorelease];
     test::click(button(1));
     ask();
-    asked.clear();
+    recordedActions.clear();
     [sheet alertDidEnd:earlier returnCode:NSAlertFirstButtonReturn contextInfo:nullptr];
-    EXPECT_EQ(asked, Asked{});
+    EXPECT_EQ(recordedActions, RecordedActions{});
     EXPECT_NE(question(), nil);
 }
 
@@ -178,7 +180,7 @@ TEST_P(Sheet, KeepsClicksAndKeysFromThePageUnderIt) {
     ask();
     test::click(seen<NSButton>("Uninstall"));
     test::click(test::firstSeen<NSSwitch>(page));
-    EXPECT_EQ(asked, Asked{});
+    EXPECT_EQ(recordedActions, RecordedActions{});
 }
 
 TEST_P(Sheet, DoesNotKeepTheApplicationFromEnding) {

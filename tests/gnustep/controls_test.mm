@@ -5,8 +5,8 @@
 namespace kelmar {
 namespace {
 
-using test::asking;
-using Asked = std::vector<std::string>;
+using test::recorded;
+using test::RecordedActions;
 
 class Controls : public test::PageInAWindow {
 protected:
@@ -18,23 +18,25 @@ TEST_F(Controls, AClickAsksForWhatTheButtonDoes) {
     test::click(seen<NSButton>("Quit"));
     test::click(seen<NSButton>("Uninstall"));
     test::click(seen<NSButton>("Choose folders"));
-    EXPECT_EQ(asked, (Asked{asking(Action::quit), asking(Action::uninstallClicked),
-                            asking(Action::toggleFolders)}));
+    EXPECT_EQ(recordedActions,
+              (RecordedActions{recorded(Action::quit), recorded(Action::uninstallClicked),
+                               recorded(Action::toggleFolders)}));
 }
 
 TEST_F(Controls, TheSwitchAsksForAllOrNothing) {
     render(test::readyPage());
     test::click(toggle());
-    EXPECT_EQ(asked, Asked{"delete none"});
+    EXPECT_EQ(recordedActions, RecordedActions{"delete none"});
     test::click(toggle());
-    EXPECT_EQ(asked, (Asked{"delete none", "delete all"}));
+    EXPECT_EQ(recordedActions, (RecordedActions{"delete none", "delete all"}));
 }
 
 TEST_F(Controls, ACheckBoxAsksForItsFolder) {
     render(test::foldersPage());
     test::click(seen<NSButton>("Store"));
     test::click(seen<NSButton>("Store"));
-    EXPECT_EQ(asked, (Asked{"leave /Users/ada/Kelmar/Store", "select /Users/ada/Kelmar/Store"}));
+    EXPECT_EQ(recordedActions,
+              (RecordedActions{"leave /Users/ada/Kelmar/Store", "select /Users/ada/Kelmar/Store"}));
 }
 
 TEST_F(Controls, APathThatIsNotUtf8IsHandedBackAsItWas) {
@@ -42,7 +44,7 @@ TEST_F(Controls, APathThatIsNotUtf8IsHandedBackAsItWas) {
     std::get<ReadyContent>(shown.content).data->lists.at(0).rows.at(0).path = "/h/\xff\xfe";
     render(shown);
     test::click(seen<NSButton>("Store"));
-    EXPECT_EQ(asked, Asked{"leave /h/\xff\xfe"});
+    EXPECT_EQ(recordedActions, RecordedActions{"leave /h/\xff\xfe"});
 }
 
 TEST_F(Controls, APressThatThePageDoesNotTakeUpIsTakenBackByTheNextPage) {
@@ -67,14 +69,14 @@ TEST_F(Controls, APageThatIsShownAsksForNothing) {
     render(shown);
     EXPECT_EQ([toggle() state], NSControlStateValueOff);
     EXPECT_EQ([seen<NSButton>("Store") state], NSControlStateValueOff);
-    EXPECT_EQ(asked, Asked{});
+    EXPECT_EQ(recordedActions, RecordedActions{});
 }
 
 TEST_F(Controls, ADisabledButtonCannotBePressed) {
     render(test::workingPage());
     test::click(seen<NSButton>("Quit"));
     [seen<NSButton>("Quit") performClick:nil];
-    EXPECT_EQ(asked, Asked{});
+    EXPECT_EQ(recordedActions, RecordedActions{});
 }
 
 TEST_F(Controls, TheTriangleAndItsTextUnfoldTheDetails) {
@@ -88,7 +90,8 @@ TEST_F(Controls, TheTriangleAndItsTextUnfoldTheDetails) {
     ASSERT_NE(triangle, nil);
     EXPECT_EQ([triangle state], NSControlStateValueOff);
     test::click(triangle);
-    EXPECT_EQ(asked, (Asked{asking(Action::toggleDetails), asking(Action::toggleDetails)}));
+    EXPECT_EQ(recordedActions,
+              (RecordedActions{recorded(Action::toggleDetails), recorded(Action::toggleDetails)}));
     render(test::workingPage({}, true));
     EXPECT_EQ([triangle state], NSControlStateValueOn);
 }

@@ -1,6 +1,6 @@
-#include "tests/gnustep/harness/turning.hpp"
+#include "tests/gnustep/harness/run_loop.hpp"
+#include "tests/support/timeouts.hpp"
 #include "tests/ui/dispatcher_contract.hpp"
-#include "tests/window/patience.hpp"
 #include "ui/appkit/dispatcher.hpp"
 
 #include <gtest/gtest.h>
@@ -63,7 +63,7 @@ TEST(Dispatcher, UnderAFloodLeavesTheEventLoopItsShare) {
                                                           selector:@selector(tick:)
                                                           userInfo:nil
                                                            repeats:YES];
-    test::turnFor(1);
+    test::runLoopFor(1);
     stop = true;
     flood.join();
     [timer invalidate];

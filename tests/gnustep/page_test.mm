@@ -1,8 +1,8 @@
 #include "system/text/foundation_text_macos.hpp"
 #include "tests/gnustep/harness/page_fixture.hpp"
 #include "tests/gnustep/harness/page_texts.hpp"
-#include "tests/gnustep/harness/pictures.hpp"
 #include "tests/gnustep/harness/sample_pages.hpp"
+#include "tests/gnustep/harness/screenshot.hpp"
 #include "ui/appkit/footer.h"
 
 #include <algorithm>
@@ -35,7 +35,7 @@ protected:
 TEST_F(PageView, ShowsEveryTextOfEveryPageOnceInReadingOrder) {
     for (const auto& [name, shown] : test::everyPage()) {
         render(shown);
-        test::takePicture(page, name);
+        test::saveScreenshot(page, name);
         EXPECT_EQ(textsAbove(), test::textsAbove(shown)) << name;
     }
 }

@@ -1,6 +1,6 @@
 // The program's window alone, as an executable: what the Mac's starts when it is given no option.
 #include "app/window_application.hpp"
-#import "tests/gnustep/stand_ins/install.h"
+#import "tests/gnustep/shims/install.h"
 
 #import <AppKit/AppKit.h>
 
@@ -10,7 +10,7 @@ int main() {
         registerDefaults:[NSDictionary dictionaryWithObject:@"NO"
                                                      forKey:@"GSX11HandlesWindowDecorations"]];
     [NSApplication sharedApplication];
-    KelmarInstallStandIns();
+    KelmarInstallShims();
     [pool drain];
     return kelmar::runWindowApplication();
 }

@@ -1,5 +1,5 @@
-#include "tests/gnustep/harness/surroundings.hpp"
-#include "tests/gnustep/harness/turning.hpp"
+#include "tests/gnustep/harness/run_loop.hpp"
+#include "tests/gnustep/harness/test_environment.hpp"
 #include "tests/support/mac_tree.hpp"
 #include "tests/support/program.hpp"
 #include "tests/support/snapshot.hpp"
@@ -20,7 +20,7 @@ protected:
     ApplicationProgram() {
         program.path = KELMAR_WINDOW_PROGRAM;
         program.environment["KELMAR_UNINSTALLER_TEST_ROOT"] = folder.path();
-        program.patience = std::chrono::seconds(30);
+        program.timeout = std::chrono::seconds(30);
         test::MacTree(folder.path()).everything();
         before = test::contents(folder.path());
         runner = std::thread([this] { end = program.run(); });
@@ -33,7 +33,7 @@ protected:
     }
 
     [[nodiscard]] static const test::Screen& screen() {
-        return test::Surroundings::current().screen();
+        return test::TestEnvironment::current().screen();
     }
 
     [[nodiscard]] static std::optional<test::ScreenWindow> window() {
@@ -60,7 +60,7 @@ protected:
 
 TEST_F(ApplicationProgram, OpensItsWindowAndEndsWithIt) {
     ASSERT_TRUE(test::eventually([] { return window().has_value(); }));
-    test::turnFor(0.5);
+    test::runLoopFor(0.5);
     screen().askToClose(*window());
     expectToHaveEndedWell();
 }

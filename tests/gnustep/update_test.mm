@@ -1,6 +1,6 @@
 #include "system/text/foundation_text_macos.hpp"
+#include "tests/gnustep/harness/dirty_region.hpp"
 #include "tests/gnustep/harness/page_fixture.hpp"
-#include "tests/gnustep/harness/painting.hpp"
 #include "tests/gnustep/harness/sample_pages.hpp"
 
 #include <set>
@@ -61,10 +61,10 @@ TEST_F(Update, OfTheSamePageDrawsNothing) {
     for (const auto& [name, each] : test::everyPage()) {
         render(each);
         const Shown before = shown();
-        const test::Painting painting;
+        const test::DirtyRegion dirty;
         [page render:each];
         EXPECT_EQ(changesSince(before), 0) << name;
-        EXPECT_TRUE(NSIsEmptyRect(painting.place())) << name;
+        EXPECT_TRUE(NSIsEmptyRect(dirty.bounds())) << name;
     }
 }
 
@@ -73,25 +73,25 @@ TEST_F(Update, OfOneSizeDrawsThatSize) {
     render(ready);
     NSView* const size = seen<NSTextField>("1.5 MB");
     const Shown before = shown();
-    const test::Painting painting;
+    const test::DirtyRegion dirty;
     std::get<ReadyContent>(ready.content).data->lists.at(0).rows.at(0).size.bytes = 4'000'000;
     [page render:ready];
     EXPECT_EQ(changesSince(before), 1);
     EXPECT_EQ(seen<NSTextField>("4 MB"), size);
-    expectWithin([size superview], painting.place());
+    expectWithin([size superview], dirty.bounds());
 }
 
 TEST_F(Update, OfOneLineDrawsThatLine) {
     Page working = test::workingPage();
     render(working);
     const Shown before = shown();
-    const test::Painting painting;
+    const test::DirtyRegion dirty;
     std::get<WorkingContent>(working.content).detail = "Removing something else";
     [page render:working];
     EXPECT_EQ(changesSince(before), 1);
     NSView* const line = seen<NSTextField>("Removing something else");
     EXPECT_EQ(before.at(line), "Removing ~/Applications/Kelmar.app");
-    expectWithin(line, painting.place());
+    expectWithin(line, dirty.bounds());
 }
 
 TEST_F(Update, OfAStageTurnsItsSpinnerIntoItsSymbol) {

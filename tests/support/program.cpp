@@ -1,14 +1,11 @@
 #include "tests/support/program.hpp"
 
-#include "system/files/file_descriptor.hpp"
+#include "tests/support/pipe.hpp"
 
 #include <array>
-#include <cerrno>
 #include <csignal>
 #include <cstdlib>
 #include <filesystem>
-#include <stdexcept>
-#include <system_error>
 #include <utility>
 
 #include <fcntl.h>
@@ -23,21 +20,9 @@ namespace {
 
 using Clock = std::chrono::steady_clock;
 
-struct Pipe {
-    FileDescriptor readEnd;
-    FileDescriptor writeEnd;
-};
-
-Pipe makePipe() {
-    std::array<int, 2> ends{};
-    if (::pipe2(ends.data(), O_CLOEXEC) != 0) {
-        throw std::system_error(errno, std::generic_category(), "pipe2");
-    }
-    return {FileDescriptor(ends[0]), FileDescriptor(ends[1])};
-}
-
 [[noreturn]] void become(const Program& program, int output, int error) {
-    ::dup2(::open("/dev/null", O_RDONLY | O_CLOEXEC), STDIN_FILENO);
+    const FileDescriptor null(::open("/dev/null", O_RDONLY | O_CLOEXEC));
+    ::dup2(null.get(), STDIN_FILENO);
     ::dup2(output, STDOUT_FILENO);
     ::dup2(error, STDERR_FILENO);
     for (const auto& [name, value] : program.environment) {
@@ -62,17 +47,6 @@ Pipe makePipe() {
     ::_exit(127);
 }
 
-/// Takes what there is; closes the end when the writer has gone.
-std::string take(FileDescriptor& end) {
-    std::array<char, 65536> buffer{};
-    const ssize_t count = ::read(end.get(), buffer.data(), buffer.size());
-    if (count <= 0) {
-        end = FileDescriptor();
-        return {};
-    }
-    return {buffer.data(), static_cast<std::size_t>(count)};
-}
-
 } // namespace
 
 ProgramEnd Program::run() const {
@@ -89,17 +63,17 @@ ProgramEnd Program::run() const {
     while (output.readEnd.isOpen() || error.readEnd.isOpen()) {
         const auto waited =
             std::chrono::duration_cast<std::chrono::milliseconds>(Clock::now() - start);
-        if (waited > patience && !end.timedOut) {
+        if (waited > timeout && !end.timedOut) {
             end.timedOut = true;
             ::kill(child, SIGKILL);
-        } else if (waited > patience + std::chrono::seconds(2)) {
+        } else if (waited > timeout + std::chrono::seconds(2)) {
             break; // something that the child started holds the pipes open
         }
         std::array<pollfd, 2> ends{
             {{output.readEnd.get(), POLLIN, 0}, {error.readEnd.get(), POLLIN, 0}}};
         ::poll(ends.data(), ends.size(), 100);
         if (ends[0].revents != 0) {
-            const std::string piece = take(output.readEnd);
+            const std::string piece = readSome(output.readEnd);
             end.output += piece;
             if (onOutput && !piece.empty()) {
                 onOutput(piece, std::chrono::duration_cast<std::chrono::milliseconds>(Clock::now() -
@@ -107,7 +81,7 @@ ProgramEnd Program::run() const {
             }
         }
         if (ends[1].revents != 0) {
-            end.error += take(error.readEnd);
+            end.error += readSome(error.readEnd);
         }
     }
     int status = 0;

@@ -17,7 +17,7 @@ struct ProgramEnd {
     int status = 0; ///< exit status, or minus the number of the signal that ended it
     std::string output;
     std::string error;
-    bool timedOut = false; ///< killed by the test after `Program::patience`
+    bool timedOut = false; ///< killed by the test after `Program::timeout`
 };
 
 /// A program to run as a child, as a person at a terminal would start it. On purpose without any
@@ -27,10 +27,10 @@ struct Program {
     std::vector<std::string> arguments;
     /// Set in the child's environment on top of this process's own; absent values are taken out.
     std::map<std::string, std::optional<std::string>> environment;
-    std::optional<std::string> root;    ///< the child's root folder, see chroot(2) (needs root)
-    std::optional<uid_t> user;          ///< whom the child runs as (needs root)
-    std::function<void()> inChild;      ///< last thing before the program, in the child
-    std::chrono::seconds patience{120}; ///< how long until the child is killed
+    std::optional<std::string> root;   ///< the child's root folder, see chroot(2) (needs root)
+    std::optional<uid_t> user;         ///< whom the child runs as (needs root)
+    std::function<void()> inChild;     ///< last thing before the program, in the child
+    std::chrono::seconds timeout{120}; ///< the child is killed after it
     /// Called with each piece of standard output as it comes, with the time since the start.
     std::function<void(const std::string&, std::chrono::milliseconds)> onOutput;
 

@@ -14,9 +14,9 @@ namespace kelmar::test {
 class ScriptedRunner : public AdministratorRunner {
 public:
     /// What the run does; it gets the path of the status file.
-    using Play = std::function<void(const std::string& statusFile)>;
+    using Behaviour = std::function<void(const std::string& statusFile)>;
 
-    explicit ScriptedRunner(Play play) : play_(std::move(play)) {}
+    explicit ScriptedRunner(Behaviour behaviour) : behaviour_(std::move(behaviour)) {}
 
     void run(const std::string& script, const std::vector<std::string>& arguments,
              const std::string& reason) override {
@@ -24,7 +24,7 @@ public:
         lastScript = script;
         lastArguments = arguments;
         lastReason = reason;
-        play_(arguments.at(1));
+        behaviour_(arguments.at(1));
     }
 
     int runs = 0;
@@ -33,11 +33,11 @@ public:
     std::string lastReason;
 
 private:
-    Play play_;
+    Behaviour behaviour_;
 };
 
-/// A play that writes `text` into the status file and ends well.
-inline ScriptedRunner::Play writes(const std::string& text) {
+/// Writes `text` into the status file and ends successfully.
+inline ScriptedRunner::Behaviour writes(const std::string& text) {
     return [text](const std::string& statusFile) {
         std::ofstream(statusFile, std::ios::app | std::ios::binary) << text;
     };

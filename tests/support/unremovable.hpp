@@ -8,7 +8,7 @@ namespace kelmar::test {
 /// the object's life. On the Mac people know it as "Locked".
 class Unremovable {
 public:
-    static constexpr const char* obstacle =
+    static constexpr const char* skipReason =
         "files can't be made immutable here (chattr(1) needs root and "
         "a file system that knows the flag)";
 

@@ -1,5 +1,5 @@
 #include "tests/support/snapshot.hpp"
-#include "tests/window/window_in_a_box.hpp"
+#include "tests/window/pretend_mac_fixture.hpp"
 
 namespace kelmar {
 namespace {
@@ -36,7 +36,7 @@ TEST_F(WindowOnAPretendMac, GoesBackToTheChoiceWhenNobodyGivesThePassword) {
         EXPECT_EQ(lines[3], "heading: Found on this Mac");
     }
     screen->press("Escape");
-    EXPECT_LE(expectEnd(), test::timeToEnd);
+    EXPECT_LE(expectEnd(), test::exitTimeout);
 }
 
 } // namespace

@@ -1,4 +1,4 @@
-#include "tests/window/window_in_a_box.hpp"
+#include "tests/window/pretend_mac_fixture.hpp"
 
 #include <filesystem>
 #include <functional>
@@ -23,9 +23,9 @@ protected:
     void expectEndBy(const Way& way, const std::string& atTheMoment) {
         open();
         ASSERT_TRUE(shows(atTheMoment));
-        ASSERT_TRUE(eventually([this] { return isHeld(); }));
+        ASSERT_TRUE(eventually([this] { return isBlocked(); }));
         way();
-        EXPECT_LE(expectEnd(), test::timeToEnd);
+        EXPECT_LE(expectEnd(), test::exitTimeout);
     }
 
     const Way closeButton = [this] { screen->askToClose(onScreen()); };
@@ -36,7 +36,7 @@ protected:
 };
 
 TEST_F(EndsAtOnce, WhileItIsStillLooking) {
-    hold("/usr/sbin/pkgutil");
+    block("/usr/sbin/pkgutil");
     for (const auto& [name, way] : std::map<std::string, Way>{{"close button", closeButton},
                                                               {"Control+Q", key("Control+q")},
                                                               {"Return", key("Return")}}) {
@@ -46,7 +46,7 @@ TEST_F(EndsAtOnce, WhileItIsStillLooking) {
 }
 
 TEST_F(EndsAtOnce, WhileAFolderIsStillBeingMeasured) {
-    hold("/usr/bin/du");
+    block("/usr/bin/du");
     for (const auto& [name, way] : std::map<std::string, Way>{{"close button", closeButton},
                                                               {"Control+Q", key("Control+q")},
                                                               {"Escape", key("Escape")}}) {
@@ -67,22 +67,22 @@ TEST_F(EndsAtOnce, WhileTheQuestionIsOpen) {
     screen->press("Return");
     ASSERT_TRUE(focusIsOn("push button: Cancel"));
     screen->askToClose(onScreen());
-    EXPECT_LE(expectEnd(), test::timeToEnd);
+    EXPECT_LE(expectEnd(), test::exitTimeout);
     EXPECT_TRUE(std::filesystem::exists(box->outside("/Users/ann/Kelmar/Store/part-0")));
 }
 
 TEST_F(EndsAtOnce, AsksAboutDataThatIsStillBeingMeasuredWithoutASize) {
-    hold("/usr/bin/du");
+    block("/usr/bin/du");
     open();
     ASSERT_TRUE(shows("label: Delete Kelmar data, Measuring…"));
     screen->press("Return");
     ASSERT_TRUE(shows("alert: Delete your Kelmar data?"));
-    goOn();
+    unblock();
     EXPECT_TRUE(shows("alert: Delete Empty of Kelmar data?")) << "a du without an answer";
     screen->press("Escape");
     ASSERT_TRUE(shows("push button: Uninstall"));
     screen->press("Escape");
-    EXPECT_LE(expectEnd(), test::timeToEnd);
+    EXPECT_LE(expectEnd(), test::exitTimeout);
 }
 
 } // namespace

@@ -12,9 +12,9 @@ using test::Window;
 TEST_F(Window, SaysWhatIsLeftOverAndWhyAndTriesAgain) {
     const std::string logs = mac->paths().home + "/Library/Logs/Kelmar";
     mac->app(Scope::me, "4.3").settings();
-    std::optional<test::Unremovable> obstacle(std::in_place, logs + "/main.log");
-    if (!obstacle->works()) {
-        GTEST_SKIP() << test::Unremovable::obstacle;
+    std::optional<test::Unremovable> locked(std::in_place, logs + "/main.log");
+    if (!locked->works()) {
+        GTEST_SKIP() << test::Unremovable::skipReason;
     }
     open();
     ASSERT_TRUE(shows("push button: Uninstall"));
@@ -44,7 +44,7 @@ TEST_F(Window, SaysWhatIsLeftOverAndWhyAndTriesAgain) {
     ASSERT_TRUE(shows("push button: Uninstall"));
     screen->press("Return");
     ASSERT_TRUE(shows("heading: Not removed"));
-    obstacle.reset();
+    locked.reset();
     click("push button", "Try Again");
     ASSERT_TRUE(shows("heading: Uninstall Kelmar"));
     ASSERT_TRUE(shows("push button: Uninstall"));
@@ -58,16 +58,16 @@ TEST_F(Window, SaysWhatIsLeftOverAndWhyAndTriesAgain) {
 TEST_F(Window, ReturnQuitsWhenSomethingIsLeftOver) {
     mac->app(Scope::me, "4.3").settings();
     const std::string log = mac->paths().home + "/Library/Logs/Kelmar/main.log";
-    const test::Unremovable obstacle(log);
-    if (!obstacle.works()) {
-        GTEST_SKIP() << test::Unremovable::obstacle;
+    const test::Unremovable locked(log);
+    if (!locked.works()) {
+        GTEST_SKIP() << test::Unremovable::skipReason;
     }
     open();
     ASSERT_TRUE(shows("push button: Uninstall"));
     screen->press("Return");
     ASSERT_TRUE(shows("push button: Try Again"));
     screen->press("Return");
-    EXPECT_LE(expectEnd(), test::timeToEnd);
+    EXPECT_LE(expectEnd(), test::exitTimeout);
     EXPECT_TRUE(std::filesystem::exists(log));
 }
 

@@ -1,5 +1,5 @@
+#include "tests/accessibility/announcement_recorder.hpp"
 #include "tests/support/snapshot.hpp"
-#include "tests/window/announcements.hpp"
 #include "tests/window/window_fixture.hpp"
 
 #include <algorithm>
@@ -129,7 +129,7 @@ TEST_F(WholeUninstall, WithTheKeyboardAlone) {
     screen->press("Control+c");
     EXPECT_TRUE(eventually([&] { return screen->clipboard() == record; }));
     screen->press("Return");
-    EXPECT_LE(expectEnd(), test::timeToEnd);
+    EXPECT_LE(expectEnd(), test::exitTimeout);
 }
 
 TEST_F(WholeUninstall, WithTheMouseAloneAndTheDataKept) {
@@ -168,11 +168,11 @@ TEST_F(WholeUninstall, WithTheMouseAloneAndTheDataKept) {
     click("push button", "Details");
     ASSERT_TRUE(eventually([this] { return !window().find("text", "Details"); }));
     click("push button", "Quit");
-    EXPECT_LE(expectEnd(), test::timeToEnd);
+    EXPECT_LE(expectEnd(), test::exitTimeout);
 }
 
 TEST_F(WholeUninstall, SaysEachPhaseAtOnceToPeopleWhoCannotSeeIt) {
-    const test::Announcements announcements;
+    const test::AnnouncementRecorder recorder;
     open();
     ASSERT_TRUE(shows("push button: Uninstall"));
     const std::string size =
@@ -182,12 +182,12 @@ TEST_F(WholeUninstall, SaysEachPhaseAtOnceToPeopleWhoCannotSeeIt) {
     click("push button", "Uninstall");
     click("push button", "Uninstall and Delete Data");
     ASSERT_TRUE(shows("heading: Kelmar has been removed"));
-    const Lines& heard = announcements.heard();
+    const Lines& announcements = recorder.announcements();
     // What is said while the window opens may be said before anybody listens.
-    const auto asked =
-        std::find(heard.begin(), heard.end(), "alert: Delete " + size + " of Kelmar data?");
-    ASSERT_NE(asked, heard.end());
-    const Lines since(asked + 1, heard.end());
+    const auto question = std::find(announcements.begin(), announcements.end(),
+                                    "alert: Delete " + size + " of Kelmar data?");
+    ASSERT_NE(question, announcements.end());
+    const Lines since(question + 1, announcements.end());
     EXPECT_EQ(since, (Lines{"notification: Uninstalling Kelmar… Deleting a lot of data can take a "
                             "few minutes.",
                             "notification: Kelmar has been removed. You can install the latest "

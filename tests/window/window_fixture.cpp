@@ -2,11 +2,11 @@
 
 #include "system/mac_tools/disk_usage.hpp"
 #include "system/text/byte_count.hpp"
-#include "tests/window/reading.hpp"
+#include "tests/accessibility/reading_order.hpp"
+#include "tests/support/desktop_session.hpp"
 
 #include <algorithm>
 #include <stdexcept>
-#include <string_view>
 
 #include <unistd.h>
 
@@ -32,27 +32,20 @@ testing::AssertionResult resultOf(bool held, const std::string& expected,
 } // namespace
 
 void Window::SetUp() {
-    for (const auto& obstacle : {Screen::obstacle(), AccessibilityBus::obstacle()}) {
-        if (obstacle) {
-            GTEST_SKIP() << *obstacle;
+    for (const auto& reason : {Screen::skipReason(), AccessibilityBus::skipReason()}) {
+        if (reason) {
+            GTEST_SKIP() << *reason;
         }
     }
     AccessibilityBus::instance();
     screen = std::make_unique<Screen>();
-    focus = std::make_unique<Focus>();
+    focus = std::make_unique<FocusTracker>();
     mac = std::make_unique<MacTree>(root.path());
 }
 
 Program Window::onTheScreen(Program program) const {
-    // Desktops tell their programs in many variables what they are to look and behave like.
-    for (char** each = environ; *each != nullptr; ++each) {
-        const std::string_view entry(*each);
-        const std::string name(entry.substr(0, entry.find('=')));
-        for (const char* const start : {"QT_", "XDG_", "WAYLAND_", "DESKTOP_", "SESSION_", "LC_"}) {
-            if (name.starts_with(start)) {
-                program.environment.try_emplace(name, std::nullopt);
-            }
-        }
+    for (const std::string& name : desktopVariables()) {
+        program.environment.try_emplace(name, std::nullopt);
     }
     program.environment["LANG"] = "C.UTF-8";
     program.environment["DISPLAY"] = screen->name();
@@ -86,7 +79,7 @@ bool Window::eventually(const std::function<bool()>& condition) const {
         }
         ::usleep(pause);
         meanwhile();
-        AccessibilityBus::takeEvents();
+        AccessibilityBus::dispatchEvents();
     }
     return true;
 }
@@ -119,7 +112,7 @@ std::vector<Accessible> Window::itemsOf(const Accessible& menu) {
 }
 
 Window::Lines Window::page() const {
-    return reading(window());
+    return linesInReadingOrder(window());
 }
 
 testing::AssertionResult Window::becomes(const Lines& expected) const {

@@ -1,11 +1,11 @@
 #pragma once
 
+#include "tests/accessibility/accessibility_bus.hpp"
+#include "tests/accessibility/focus_tracker.hpp"
+#include "tests/screen/screen.hpp"
 #include "tests/support/mac_tree.hpp"
 #include "tests/support/temporary_folder.hpp"
-#include "tests/window/accessibility_bus.hpp"
-#include "tests/window/focus.hpp"
-#include "tests/window/patience.hpp"
-#include "tests/window/screen.hpp"
+#include "tests/support/timeouts.hpp"
 #include "tests/window/window_program.hpp"
 
 #include <gtest/gtest.h>
@@ -69,7 +69,7 @@ protected:
     std::chrono::milliseconds expectEnd();
 
     std::unique_ptr<Screen> screen;
-    std::unique_ptr<Focus> focus;
+    std::unique_ptr<FocusTracker> focus;
     TemporaryFolder root;
     std::unique_ptr<MacTree> mac; ///< in `root`
     std::unique_ptr<WindowProgram> running;

@@ -1,5 +1,5 @@
+#include "tests/window/pretend_mac_fixture.hpp"
 #include "tests/window/session_manager.hpp"
-#include "tests/window/window_in_a_box.hpp"
 
 #include <algorithm>
 #include <functional>
@@ -85,10 +85,10 @@ TEST_F(WhileWorking, ShowsHowFarItIs) {
         "label: Please keep this window open until it's done.",
         "push button: Quit (disabled)",
     }));
-    goOn();
+    unblock();
     EXPECT_TRUE(shows("heading: Kelmar has been removed"));
     screen->press("Return");
-    EXPECT_LE(expectEnd(), test::timeToEnd);
+    EXPECT_LE(expectEnd(), test::exitTimeout);
 }
 
 TEST_F(WhileWorking, NothingEndsIt) {
@@ -104,10 +104,10 @@ TEST_F(WhileWorking, NothingEndsIt) {
         screen->press(key);
         expectNothingHappened();
     }
-    goOn();
+    unblock();
     EXPECT_TRUE(shows("heading: Kelmar has been removed"));
     screen->askToClose(onScreen());
-    EXPECT_LE(expectEnd(), test::timeToEnd);
+    EXPECT_LE(expectEnd(), test::exitTimeout);
 }
 
 TEST_F(WhileWorking, EverythingEndsItOnceItIsDone) {
@@ -119,7 +119,7 @@ TEST_F(WhileWorking, EverythingEndsItOnceItIsDone) {
         screen->press("Return");
         ASSERT_TRUE(shows("heading: Kelmar has been removed"));
         way();
-        EXPECT_LE(expectEnd(), test::timeToEnd);
+        EXPECT_LE(expectEnd(), test::exitTimeout);
     }
 }
 
@@ -137,7 +137,7 @@ TEST_F(WhileWorking, KeepsTheSessionOpen) {
         EXPECT_EQ(session.answer(), SessionManager::Answer::refused);
         expectNothingHappened();
     }
-    goOn();
+    unblock();
     ASSERT_TRUE(shows("heading: Kelmar has been removed"));
     session.askToEnd();
     ASSERT_TRUE(eventually([&] { return session.answer() != SessionManager::Answer::none; }));

@@ -1,16 +1,16 @@
-# Shared by the stand-ins for macOS's tools; sourced, not run.
+# Shared by the fakes for macOS's tools; sourced, not run.
 #
-# A stand-in takes the options that macOS's manual pages document and no others, does with GNU's tool what the
+# A fake takes the options that macOS's manual pages document and no others, does with GNU's tool what the
 # script needs of it, and prints what macOS's would. It writes down each call; what it can't take it refuses,
 # with status 64 and a line that begins with REFUSED. Paths in here are those of the pretend Mac:
 #
-#   /mnt/gnu    the tools that the stand-ins themselves use
+#   /mnt/gnu    the tools that the fakes themselves use
 #   /mnt/proc   the processes, of which a Mac has no file system
-#   /mnt/state  what a test wants to be so; support.sh and the stand-ins say what they look for in it
+#   /mnt/state  what a test wants to be so; support.sh and the fakes say what they look for in it
 #   /mnt/calls  every call so far
 # shellcheck shell=bash
 
-# shellcheck disable=SC2034 # some of these are for the stand-ins
+# shellcheck disable=SC2034 # some of these are for the fakes
 {
     tool=${0##*/}
     gnu=/mnt/gnu

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "tests/gnustep/harness/turning.hpp"
+#include "tests/gnustep/harness/run_loop.hpp"
 #include "tests/gnustep/harness/views.hpp"
 #include "tests/support/mac_tree.hpp"
 #include "tests/support/temporary_folder.hpp"

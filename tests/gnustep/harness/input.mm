@@ -1,7 +1,7 @@
 #include "tests/gnustep/harness/input.hpp"
 
-#include "tests/gnustep/harness/surroundings.hpp"
-#include "tests/gnustep/harness/turning.hpp"
+#include "tests/gnustep/harness/run_loop.hpp"
+#include "tests/gnustep/harness/test_environment.hpp"
 
 #include <gtest/gtest.h>
 
@@ -50,7 +50,7 @@ void doubleClick(NSView* view) {
 }
 
 void press(const std::string& key) {
-    Surroundings::current().screen().press(key);
+    TestEnvironment::current().screen().press(key);
     settle();
 }
 

@@ -1,5 +1,5 @@
-#include "tests/gnustep/harness/inner_process.hpp"
-#include "tests/gnustep/harness/surroundings.hpp"
+#include "tests/gnustep/harness/isolated_process.hpp"
+#include "tests/gnustep/harness/test_environment.hpp"
 
 #include <gtest/gtest.h>
 
@@ -9,20 +9,20 @@
 #import <Foundation/Foundation.h>
 
 int main(int count, char** arguments) {
-    if (const auto status = kelmar::test::runInside(arguments)) {
+    if (const auto status = kelmar::test::runIsolated(arguments)) {
         return *status;
     }
     testing::InitGoogleTest(&count, arguments);
     if (testing::GTEST_FLAG(list_tests)) {
         return RUN_ALL_TESTS();
     }
-    if (const auto obstacle = kelmar::test::Screen::obstacle()) {
-        std::fprintf(stderr, "%s\n", obstacle->c_str());
+    if (const auto reason = kelmar::test::Screen::skipReason()) {
+        std::fprintf(stderr, "%s\n", reason->c_str());
         return EXIT_FAILURE;
     }
     int result = EXIT_FAILURE;
     {
-        const kelmar::test::Surroundings surroundings;
+        const kelmar::test::TestEnvironment environment;
         NSAutoreleasePool* const pool = [NSAutoreleasePool new];
         result = RUN_ALL_TESTS();
         [pool drain];

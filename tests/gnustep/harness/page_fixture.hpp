@@ -1,8 +1,8 @@
 #pragma once
 
-#include "tests/gnustep/harness/turning.hpp"
+#include "tests/gnustep/harness/run_loop.hpp"
 #include "tests/gnustep/harness/views.hpp"
-#include "tests/ui/asked.hpp"
+#include "tests/ui/recorded_actions.hpp"
 #include "ui/appkit/page.h"
 
 #include <gtest/gtest.h>
@@ -12,7 +12,7 @@
 
 namespace kelmar::test {
 
-/// A page in a window of its usual size; what its controls ask for is written down.
+/// A page in a window of its usual size; what its controls ask for is recorded.
 class PageInAWindow : public testing::Test {
 protected:
     PageInAWindow();
@@ -26,8 +26,8 @@ protected:
         return test::seen<View>(page, text);
     }
 
-    std::vector<std::string> asked;
-    WindowActions actions = writingTo(asked);
+    RecordedActions recordedActions;
+    WindowActions actions = recordInto(recordedActions);
     NSWindow* window = nil;
     KelmarPageView* page = nil;
 

@@ -1,10 +1,10 @@
-#include "tests/gnustep/harness/inner_process.hpp"
+#include "tests/gnustep/harness/isolated_process.hpp"
 
 #include <gtest/gtest.h>
 
 /// For tests without a window.
 int main(int count, char** arguments) {
-    if (const auto status = kelmar::test::runInside(arguments)) {
+    if (const auto status = kelmar::test::runIsolated(arguments)) {
         return *status;
     }
     testing::InitGoogleTest(&count, arguments);

@@ -82,7 +82,7 @@ class Agreement(unittest.TestCase):
         self.assertAgrees("@class View; enum { On = 1 }; extern NSString *const Name; int count(View *view);")
 
 
-class Damage(unittest.TestCase):
+class Mutation(unittest.TestCase):
     def assertAbsent(self, name, declarations):
         self.assertEqual(compared(declarations).absent, {name})
 

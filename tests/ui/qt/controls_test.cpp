@@ -6,8 +6,8 @@
 namespace kelmar {
 namespace {
 
-using test::asking;
-using Asked = std::vector<std::string>;
+using test::recorded;
+using test::RecordedActions;
 
 class Controls : public test::PageInAWindow {
 protected:
@@ -23,21 +23,22 @@ TEST_F(Controls, AClickAsksForWhatTheButtonDoes) {
     click(seen<PushButton>("Quit"));
     click(seen<PushButton>("Uninstall"));
     click(seen<PushButton>("Hide folders"));
-    EXPECT_EQ(asked, (Asked{asking(Action::quit), asking(Action::uninstallClicked),
-                            asking(Action::toggleFolders)}));
+    EXPECT_EQ(recordedActions,
+              (RecordedActions{recorded(Action::quit), recorded(Action::uninstallClicked),
+                               recorded(Action::toggleFolders)}));
 }
 
 TEST_F(Controls, TheSwitchAndItsLabelAskForAllOrNothing) {
     click(firstSeen<ToggleSwitch>());
-    EXPECT_EQ(asked, Asked{"delete none"});
+    EXPECT_EQ(recordedActions, RecordedActions{"delete none"});
     click(seen<TextLabel>("Delete Kelmar data"));
-    EXPECT_EQ(asked, (Asked{"delete none", "delete all"}));
+    EXPECT_EQ(recordedActions, (RecordedActions{"delete none", "delete all"}));
 }
 
 TEST_F(Controls, AllOfACheckBoxIsPressedBesideItsTextToo) {
     QTest::mouseClick(seen<CheckBox>("Store"), Qt::LeftButton, {}, QPoint(6, 8));
     QTest::mouseClick(seen<CheckBox>("Logs"), Qt::LeftButton, {}, QPoint(40, 8));
-    EXPECT_EQ(asked, (Asked{"leave /h/Kelmar/Store", "select /h/Kelmar/Logs"}));
+    EXPECT_EQ(recordedActions, (RecordedActions{"leave /h/Kelmar/Store", "select /h/Kelmar/Logs"}));
 }
 
 TEST_F(Controls, APathThatIsNotUtf8IsHandedBackAsItWas) {
@@ -45,7 +46,7 @@ TEST_F(Controls, APathThatIsNotUtf8IsHandedBackAsItWas) {
     std::get<ReadyContent>(page.content).data->lists.at(0).rows.at(0).path = "/h/\xff\xfe";
     render(page);
     click(seen<CheckBox>("Store"));
-    EXPECT_EQ(asked, Asked{"leave /h/\xff\xfe"});
+    EXPECT_EQ(recordedActions, RecordedActions{"leave /h/\xff\xfe"});
 }
 
 TEST_F(Controls, APressThatThePageDoesNotTakeUpIsTakenBackByTheNextPage) {
@@ -62,24 +63,25 @@ TEST_F(Controls, WhatIsSwitchedIsWhatThePageSays) {
     EXPECT_TRUE(firstSeen<ToggleSwitch>()->isChecked());
     EXPECT_TRUE(seen<CheckBox>("Store")->isChecked());
     EXPECT_FALSE(seen<CheckBox>("Logs")->isChecked());
-    asked.clear();
+    recordedActions.clear();
     Page page = test::readyPage();
     std::get<ReadyContent>(page.content).data->on = false;
     std::get<ReadyContent>(page.content).data->lists.at(0).rows.at(1).checked = true;
     render(page);
     EXPECT_FALSE(firstSeen<ToggleSwitch>()->isChecked());
     EXPECT_TRUE(seen<CheckBox>("Logs")->isChecked());
-    EXPECT_EQ(asked, Asked{}) << "a page that is shown asks for nothing";
+    EXPECT_EQ(recordedActions, RecordedActions{}) << "a page that is shown asks for nothing";
 }
 
 TEST_F(Controls, UnderTheQuestionThePageCannotBePressed) {
     render(test::confirmingPage());
     click(seen<PushButton>("Uninstall"));
     click(firstSeen<ToggleSwitch>());
-    EXPECT_EQ(asked, Asked{});
+    EXPECT_EQ(recordedActions, RecordedActions{});
     click(seen<PushButton>("Uninstall and Delete Data"));
     click(seen<PushButton>("Cancel"));
-    EXPECT_EQ(asked, (Asked{asking(Action::uninstall), asking(Action::dismissConfirmation)}));
+    EXPECT_EQ(recordedActions, (RecordedActions{recorded(Action::uninstall),
+                                                recorded(Action::dismissConfirmation)}));
 }
 
 TEST_F(Controls, TheWayOutStandsBeforeTheButtonThatGoesOn) {

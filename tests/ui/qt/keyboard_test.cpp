@@ -9,8 +9,8 @@
 namespace kelmar {
 namespace {
 
-using test::asking;
-using Asked = std::vector<std::string>;
+using test::recorded;
+using test::RecordedActions;
 
 class Keyboard : public test::PageInAWindow {
 protected:
@@ -35,35 +35,37 @@ TEST_F(Keyboard, ReturnPressesTheDefaultButtonAndEscapeTheWayOut) {
     press(Qt::Key_Return);
     press(Qt::Key_Enter);
     press(Qt::Key_Escape);
-    EXPECT_EQ(asked, (Asked{asking(Action::uninstallClicked), asking(Action::uninstallClicked),
-                            asking(Action::quit)}));
+    EXPECT_EQ(recordedActions,
+              (RecordedActions{recorded(Action::uninstallClicked),
+                               recorded(Action::uninstallClicked), recorded(Action::quit)}));
 }
 
 TEST_F(Keyboard, ReturnPressesTheDefaultButtonWhereverTheFocusIs) {
     render(test::readyPage());
     for (PushButton* const button : test::widgets<PushButton>(window)) {
-        asked.clear();
+        recordedActions.clear();
         button->setFocus();
         press(Qt::Key_Return);
-        EXPECT_EQ(asked, Asked{asking(Action::uninstallClicked)}) << button->text().toStdString();
+        EXPECT_EQ(recordedActions, RecordedActions{recorded(Action::uninstallClicked)})
+            << button->text().toStdString();
     }
-    asked.clear();
+    recordedActions.clear();
     firstSeen<CheckBox>()->setFocus();
     press(Qt::Key_Return);
-    EXPECT_EQ(asked, Asked{asking(Action::uninstallClicked)});
+    EXPECT_EQ(recordedActions, RecordedActions{recorded(Action::uninstallClicked)});
 }
 
 TEST_F(Keyboard, ReturnInTheRecordOfARunPressesTheDefaultButton) {
     render(test::finishedPage(LogLines({"one"}), true));
     window.findChild<QPlainTextEdit*>()->setFocus();
     press(Qt::Key_Return);
-    EXPECT_EQ(asked, Asked{asking(Action::quit)});
+    EXPECT_EQ(recordedActions, RecordedActions{recorded(Action::quit)});
 }
 
 TEST_F(Keyboard, EscapeDoesNothingWhereNothingIsCancelled) {
     render(test::finishedPage());
     press(Qt::Key_Escape);
-    EXPECT_EQ(asked, Asked{});
+    EXPECT_EQ(recordedActions, RecordedActions{});
 }
 
 TEST_F(Keyboard, NoKeyPressesADisabledButton) {
@@ -71,7 +73,7 @@ TEST_F(Keyboard, NoKeyPressesADisabledButton) {
     press(Qt::Key_Return);
     press(Qt::Key_Escape);
     press(Qt::Key_Space);
-    EXPECT_EQ(asked, Asked{});
+    EXPECT_EQ(recordedActions, RecordedActions{});
 }
 
 TEST_F(Keyboard, AKeyHeldDownPressesOnce) {
@@ -80,15 +82,15 @@ TEST_F(Keyboard, AKeyHeldDownPressesOnce) {
     QTest::keyPress(&window, Qt::Key_Return);
     QApplication::sendEvent(&window, &again);
     QApplication::sendEvent(&window, &again);
-    EXPECT_EQ(asked.size(), 1U);
+    EXPECT_EQ(recordedActions.size(), 1U);
 }
 
 TEST_F(Keyboard, OverTheQuestionReturnAndEscapeBothLeadOut) {
     render(test::confirmingPage());
     press(Qt::Key_Return);
     press(Qt::Key_Escape);
-    EXPECT_EQ(asked,
-              (Asked{asking(Action::dismissConfirmation), asking(Action::dismissConfirmation)}));
+    EXPECT_EQ(recordedActions, (RecordedActions{recorded(Action::dismissConfirmation),
+                                                recorded(Action::dismissConfirmation)}));
 }
 
 TEST_F(Keyboard, TheFocusComesToTheWayOutOfTheQuestionAndGoesBack) {
@@ -108,7 +110,7 @@ TEST_F(Keyboard, SpaceGoesOnOverTheQuestionOnlyOnTheButtonItself) {
     render(test::confirmingPage());
     press(Qt::Key_Tab);
     press(Qt::Key_Space);
-    EXPECT_EQ(asked, Asked{asking(Action::uninstall)});
+    EXPECT_EQ(recordedActions, RecordedActions{recorded(Action::uninstall)});
 }
 
 TEST_F(Keyboard, TabGoesThroughThePageFromTopToBottom) {
@@ -144,15 +146,15 @@ TEST_F(Keyboard, SpaceTogglesWhatHasTheFocus) {
     press(Qt::Key_Space);
     seen<PushButton>("Hide folders")->setFocus();
     press(Qt::Key_Space);
-    EXPECT_EQ(asked,
-              (Asked{"delete none", "select /h/Kelmar/Logs", asking(Action::toggleFolders)}));
+    EXPECT_EQ(recordedActions, (RecordedActions{"delete none", "select /h/Kelmar/Logs",
+                                                recorded(Action::toggleFolders)}));
 }
 
 TEST_F(Keyboard, SpaceUnfoldsTheDetails) {
     render(test::workingPage());
     firstSeen<Disclosure>()->setFocus();
     press(Qt::Key_Space);
-    EXPECT_EQ(asked, Asked{asking(Action::toggleDetails)});
+    EXPECT_EQ(recordedActions, RecordedActions{recorded(Action::toggleDetails)});
 }
 
 TEST_F(Keyboard, TheFocusIsNotLostWhenThePageUnderItChanges) {

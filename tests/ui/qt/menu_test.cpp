@@ -19,7 +19,7 @@ protected:
         window.setWindowTitle("Kelmar Uninstaller");
         window.setCentralWidget(text);
         fillMenuBar(*window.menuBar(), mainMenu(),
-                    [this](MenuAction action) { asked.push_back(action); });
+                    [this](MenuAction action) { chosen.push_back(action); });
         window.show();
         QApplication::setActiveWindow(&window);
         text->setPlainText("a record");
@@ -43,7 +43,7 @@ protected:
 
     QMainWindow window;
     QPlainTextEdit* text = new QPlainTextEdit;
-    std::vector<MenuAction> asked;
+    std::vector<MenuAction> chosen;
 };
 
 TEST_F(MainMenu, HasItemsAndKeysWithControlForCommand) {
@@ -70,8 +70,8 @@ TEST_F(MainMenu, GivesTheApplicationWhatIsTheApplications) {
                                     "Quit Kelmar Uninstaller", "Minimize"}) {
         item(title)->trigger();
     }
-    EXPECT_EQ(asked, (std::vector{MenuAction::about, MenuAction::hide, MenuAction::quit,
-                                  MenuAction::minimize}));
+    EXPECT_EQ(chosen, (std::vector{MenuAction::about, MenuAction::hide, MenuAction::quit,
+                                   MenuAction::minimize}));
 }
 
 TEST_F(MainMenu, CopiesAndSelectsInTheTextThatHasTheFocus) {
@@ -80,7 +80,7 @@ TEST_F(MainMenu, CopiesAndSelectsInTheTextThatHasTheFocus) {
     EXPECT_EQ(text->textCursor().selectedText(), "a record");
     item("Copy")->trigger();
     EXPECT_EQ(QGuiApplication::clipboard()->text(), "a record");
-    EXPECT_EQ(asked, std::vector<MenuAction>{});
+    EXPECT_EQ(chosen, std::vector<MenuAction>{});
 }
 
 TEST_F(MainMenu, GreysWhatNothingAnswersTo) {

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "tests/ui/asked.hpp"
 #include "tests/ui/qt/widgets.hpp"
+#include "tests/ui/recorded_actions.hpp"
 #include "ui/qt/page.hpp"
 #include "ui/qt/text_label.hpp"
 
@@ -27,7 +27,7 @@ public:
     int count = 0;
 };
 
-/// A page in a window of its usual size; what its controls ask for is written down.
+/// A page in a window of its usual size; what its controls ask for is recorded.
 class PageInAWindow : public testing::Test {
 protected:
     PageInAWindow() {
@@ -68,8 +68,8 @@ protected:
         return nullptr;
     }
 
-    std::vector<std::string> asked;
-    PageWidget window{writingTo(asked)};
+    RecordedActions recordedActions;
+    PageWidget window{recordInto(recordedActions)};
 };
 
 /// A page on which there is a choice.

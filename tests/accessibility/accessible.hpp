@@ -1,0 +1,72 @@
+#pragma once
+
+#include "tests/screen/geometry.hpp"
+
+#include <memory>
+#include <optional>
+#include <string>
+#include <vector>
+
+struct _AtspiAccessible; // NOLINT(*-reserved-identifier): the name that the library gave
+                         // it
+
+namespace kelmar::test {
+
+/// Something that a program shows to screen readers, in the words of AT-SPI. Every question goes to
+/// the program; what is no longer there has no name, no role and no states.
+class Accessible {
+public:
+    enum State : unsigned {
+        checked = 1U << 0U,
+        enabled = 1U << 1U,
+        focusable = 1U << 2U,
+        focused = 1U << 3U,
+        showing = 1U << 4U,
+    };
+
+    Accessible() = default;
+
+    /// Takes the reference over.
+    explicit Accessible(_AtspiAccessible* object);
+
+    explicit operator bool() const { return object_ != nullptr; }
+
+    [[nodiscard]] std::string role() const;
+    [[nodiscard]] std::string name() const;
+    [[nodiscard]] std::string description() const;
+
+    /// The states that hold, as bits, and whether one does.
+    [[nodiscard]] unsigned states() const;
+
+    [[nodiscard]] bool is(State state) const { return (states() & state) != 0; }
+
+    /// Where it is on the screen.
+    [[nodiscard]] Rectangle place() const;
+
+    /// The names of what labels it.
+    [[nodiscard]] std::vector<std::string> labels() const;
+
+    /// The key of its first action that has one, as in "Ctrl+Q".
+    [[nodiscard]] std::string key() const;
+
+    /// Does what a press on it does; whether the program says that it did.
+    // NOLINTNEXTLINE(modernize-use-nodiscard): a person does not look either
+    bool press() const;
+
+    /// Its text, and the part of it that is selected, where it has any.
+    [[nodiscard]] std::string text() const;
+    [[nodiscard]] std::string selectedText() const;
+
+    [[nodiscard]] std::vector<Accessible> children() const;
+
+    /// Everything below it, each before what is below that, without what is hidden on purpose.
+    [[nodiscard]] std::vector<Accessible> everything() const;
+
+    /// The first of them with this role and name.
+    [[nodiscard]] Accessible find(const std::string& role, const std::string& name) const;
+
+private:
+    std::shared_ptr<_AtspiAccessible> object_;
+};
+
+} // namespace kelmar::test

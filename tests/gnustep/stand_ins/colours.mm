@@ -1,9 +1,0 @@
-#import "tests/gnustep/stand_ins/colours.h"
-
-@implementation NSColor (KelmarColours)
-
-+ (NSColor*)separatorColor {
-    return [NSColor colorWithCalibratedWhite:0 alpha:0.1];
-}
-
-@end

@@ -1,0 +1,36 @@
+#pragma once
+
+#include <chrono>
+
+#if defined(__SANITIZE_ADDRESS__) || defined(__SANITIZE_THREAD__)
+#define KELMAR_SANITIZED 1
+#elif defined(__has_feature)
+#if __has_feature(address_sanitizer) || __has_feature(thread_sanitizer)
+#define KELMAR_SANITIZED 1
+#endif
+#endif
+#ifndef KELMAR_SANITIZED
+#define KELMAR_SANITIZED 0
+#endif
+
+namespace kelmar::test {
+
+/// Whether this build has a sanitizer in it: such a program is several times slower, so that its
+/// times say nothing about the one that people get.
+constexpr bool isSanitized = KELMAR_SANITIZED != 0;
+
+/// The longest that a program may take to exit once it is told to, at a moment when it may.
+constexpr std::chrono::milliseconds exitTimeout(isSanitized ? 3'000 : 200);
+
+/// The timeout of a wait for what must come, from its construction on; only a failing test waits so
+/// long.
+class Deadline {
+public:
+    [[nodiscard]] bool hasPassed() const { return std::chrono::steady_clock::now() > end_; }
+
+private:
+    std::chrono::steady_clock::time_point end_ =
+        std::chrono::steady_clock::now() + std::chrono::seconds(20);
+};
+
+} // namespace kelmar::test
