@@ -1,4 +1,6 @@
+#include "system/files/file_descriptor.hpp"
 #include "tests/support/mac_tree.hpp"
+#include "tests/support/pipe.hpp"
 #include "tests/support/program.hpp"
 #include "tests/support/temporary_folder.hpp"
 
@@ -33,7 +35,8 @@ TEST_F(Output, IntoAFileIsTheSame) {
     test::Program program = scan();
     const std::string path = folder / "listing";
     program.inChild = [path] {
-        ::dup2(::open(path.c_str(), O_WRONLY | O_CREAT, 0600), STDOUT_FILENO);
+        const FileDescriptor file(::open(path.c_str(), O_WRONLY | O_CREAT | O_CLOEXEC, 0600));
+        ::dup2(file.get(), STDOUT_FILENO);
     };
     EXPECT_EQ(program.run().status, 0);
     std::ostringstream written;
@@ -44,12 +47,8 @@ TEST_F(Output, IntoAFileIsTheSame) {
 TEST_F(Output, AReaderThatGoesAwayStopsNothing) {
     test::Program program = scan();
     program.inChild = [] {
-        int ends[2];
-        if (::pipe(ends) == 0) {
-            ::dup2(ends[1], STDOUT_FILENO);
-            ::close(ends[0]);
-            ::close(ends[1]);
-        }
+        const test::Pipe unread = test::makePipe();
+        ::dup2(unread.writeEnd.get(), STDOUT_FILENO);
     };
     EXPECT_EQ(program.run().status, 0) << "the signal of a broken pipe is ignored";
 }
@@ -85,7 +84,10 @@ TEST_F(Output, AReaderThatGoesAwayEndsTheListing) {
 
 TEST_F(Output, AFullDiskStopsNothing) {
     test::Program program = scan();
-    program.inChild = [] { ::dup2(::open("/dev/full", O_WRONLY), STDOUT_FILENO); };
+    program.inChild = [] {
+        const FileDescriptor full(::open("/dev/full", O_WRONLY | O_CLOEXEC));
+        ::dup2(full.get(), STDOUT_FILENO);
+    };
     const test::ProgramEnd end = program.run();
     EXPECT_EQ(end.status, 0);
     EXPECT_EQ(end.error, "");

@@ -1,4 +1,5 @@
 #include "discovery/ownership_walk.hpp"
+#include "system/files/file_descriptor.hpp"
 #include "tests/support/temporary_folder.hpp"
 
 #include <gtest/gtest.h>
@@ -121,21 +122,20 @@ TEST(OwnershipWalk, EntriesThatVanishNeverHideAForeignOne) {
 
 /// Makes a chain of folders below `path`, each with `beside` empty folders next to the next link.
 void makeChain(const std::string& path, int levels, int beside) {
-    int current = ::open(path.c_str(), O_RDONLY | O_DIRECTORY);
+    FileDescriptor current(::open(path.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC));
     for (int level = 0; level < levels; ++level) {
         for (int index = 0; index < beside; ++index) {
-            ASSERT_EQ(::mkdirat(current, ("beside" + std::to_string(index)).c_str(), 0700), 0);
+            ASSERT_EQ(::mkdirat(current.get(), ("beside" + std::to_string(index)).c_str(), 0700),
+                      0);
         }
-        ASSERT_EQ(::mkdirat(current, "level", 0700), 0);
-        const int next = ::openat(current, "level", O_RDONLY | O_DIRECTORY);
-        ASSERT_GE(next, 0);
-        ::close(current);
-        current = next;
+        ASSERT_EQ(::mkdirat(current.get(), "level", 0700), 0);
+        current =
+            FileDescriptor(::openat(current.get(), "level", O_RDONLY | O_DIRECTORY | O_CLOEXEC));
+        ASSERT_TRUE(current.isOpen());
     }
-    const int file = ::openat(current, "last", O_CREAT | O_WRONLY, 0600);
-    ASSERT_GE(file, 0);
-    ::close(file);
-    ::close(current);
+    const FileDescriptor file(
+        ::openat(current.get(), "last", O_CREAT | O_WRONLY | O_CLOEXEC, 0600));
+    ASSERT_TRUE(file.isOpen());
 }
 
 class DeepTree : public testing::TestWithParam<int> {};
@@ -173,11 +173,10 @@ TEST(OwnershipWalk, AnEntryOfAnotherUserAtTheBottomOfADeepTreeIsFound) {
 
 TEST(OwnershipWalk, AHundredThousandFilesInOneFolderAreWalked) {
     const test::TemporaryFolder folder;
-    const int top = ::open(folder.path().c_str(), O_RDONLY | O_DIRECTORY);
+    const FileDescriptor top(::open(folder.path().c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC));
     for (int index = 0; index < 100'000; ++index) {
-        ASSERT_EQ(::mknodat(top, std::to_string(index).c_str(), S_IFREG | 0600, 0), 0);
+        ASSERT_EQ(::mknodat(top.get(), std::to_string(index).c_str(), S_IFREG | 0600, 0), 0);
     }
-    ::close(top);
     EXPECT_TRUE(everythingBeneathBelongsTo(::getuid(), folder.path(), 2));
     EXPECT_FALSE(everythingBeneathBelongsTo(::getuid() + 1, folder.path(), 2));
 }

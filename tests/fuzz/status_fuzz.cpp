@@ -1,5 +1,6 @@
 #include "admin/status_line.hpp"
 #include "admin/status_tail.hpp"
+#include "system/files/file_descriptor.hpp"
 #include "system/text/utf8.hpp"
 #include "tests/fuzz/require.hpp"
 
@@ -23,9 +24,8 @@ namespace {
 const std::string& statusFile() {
     static const std::string path = [] {
         std::string name = "/tmp/kelmar-fuzz-XXXXXX";
-        const int descriptor = ::mkstemp(name.data());
-        require(descriptor >= 0);
-        ::close(descriptor);
+        const kelmar::FileDescriptor file(::mkstemp(name.data()));
+        require(file.isOpen());
         std::atexit([] { ::unlink(statusFile().c_str()); });
         return name;
     }();

@@ -1,3 +1,4 @@
+#include "system/files/file_descriptor.hpp"
 #include "system/process/shell.hpp"
 #include "tests/support/temporary_folder.hpp"
 
@@ -159,11 +160,10 @@ TEST(Shell, KeepsTheTwoStreamsApartWhenToldTo) {
 }
 
 TEST(Shell, TheChildInheritsNoOtherDescriptor) {
-    const int leak = ::open("/dev/null", O_RDONLY); // on purpose not close-on-exec
-    ASSERT_GE(leak, 3);
+    const FileDescriptor leak(::open("/dev/null", O_RDONLY)); // on purpose not close-on-exec
+    ASSERT_GE(leak.get(), 3);
     // ls itself opens one: the folder that it lists.
     EXPECT_EQ(Shell::run("/bin/ls", {"/proc/self/fd"}).output, "0\n1\n2\n3\n");
-    ::close(leak);
 }
 
 TEST(Shell, LeavesNoDescriptorOpenWhetherTheChildStartsOrNot) {
