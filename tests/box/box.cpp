@@ -66,13 +66,12 @@ Box::Box() : root_(folder_ / "root") {
         fs::permissions(place, fs::perms(0755));
     }
     write(outside("/box/calls"), "", fs::perms(0666));
-    write(outside("/etc/passwd"), "ann:x:501:501:Ann:/Users/ann/:/bin/sh\n", fs::perms(0644));
+    addAccounts();
     fs::create_directories(outside("/box/bin"));
     const fs::path executable = test::uninstaller({}, {}).path;
     fs::copy_file(executable, outside("/box/bin/kelmar-uninstaller"));
     fs::copy_file(executable.parent_path() / "uninstall-as-admin.sh",
                   outside("/box/bin/uninstall-as-admin.sh"));
-    letUserBecomeRoot();
     for (const char* const own : {"/Users/ann", "/Users/ann/Library", "/box/tmp"}) {
         fs::create_directories(outside(own));
         chownToUser(own);
@@ -125,10 +124,17 @@ void Box::addKeychainItem(const std::string& service, const std::string& item) c
     set("/box/keychain/" + service, item + "\n");
 }
 
-/// Gives the user a password and the right to run anything with it.
-void Box::letUserBecomeRoot() const {
+/// Makes root and the user the only accounts: this machine may have one of the user's name or
+/// number. Gives the user a password and the right to run anything with it.
+void Box::addAccounts() const {
+    for (const char* const file : {"/etc/passwd", "/etc/shadow"}) {
+        fs::remove(outside(file));
+    }
+    write(outside("/etc/passwd"),
+          "root:x:0:0:root:/root:/bin/sh\nann:x:501:501:Ann:/Users/ann/:/bin/sh\n",
+          fs::perms(0644));
+    write(outside("/etc/shadow"), "root:*:20000::::::\nann:*:20000::::::\n", fs::perms(0640));
     write(outside("/etc/sudoers.d/ann"), "ann ALL=(ALL) ALL\n", fs::perms(0440));
-    write(outside("/etc/shadow"), "ann:*:20000::::::\n", fs::perms(0640));
     Program change;
     change.path = "/bin/sh";
     change.arguments = {"-c", std::string("echo 'ann:") + password + "' | /usr/sbin/chpasswd"};

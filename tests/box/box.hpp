@@ -78,7 +78,7 @@ public:
     [[nodiscard]] std::vector<std::string> calls() const;
 
 private:
-    void letUserBecomeRoot() const;
+    void addAccounts() const;
 
     TemporaryFolder folder_;
     std::string root_;
