@@ -20,33 +20,6 @@ namespace {
 
 using Clock = std::chrono::steady_clock;
 
-[[noreturn]] void become(const Program& program, int output, int error) {
-    const FileDescriptor null(::open("/dev/null", O_RDONLY | O_CLOEXEC));
-    ::dup2(null.get(), STDIN_FILENO);
-    ::dup2(output, STDOUT_FILENO);
-    ::dup2(error, STDERR_FILENO);
-    for (const auto& [name, value] : program.environment) {
-        value ? ::setenv(name.c_str(), value->c_str(), 1) : ::unsetenv(name.c_str());
-    }
-    if (program.root && (::chroot(program.root->c_str()) != 0 || ::chdir("/") != 0)) {
-        ::_exit(125);
-    }
-    if (program.user && (::setgroups(0, nullptr) != 0 || ::setgid(*program.user) != 0 ||
-                         ::setuid(*program.user) != 0)) {
-        ::_exit(126);
-    }
-    if (program.inChild) {
-        program.inChild();
-    }
-    std::vector<char*> arguments{const_cast<char*>(program.path.c_str())};
-    for (const std::string& argument : program.arguments) {
-        arguments.push_back(const_cast<char*>(argument.c_str()));
-    }
-    arguments.push_back(nullptr);
-    ::execv(program.path.c_str(), arguments.data());
-    ::_exit(127);
-}
-
 } // namespace
 
 ProgramEnd Program::run() const {
@@ -55,7 +28,7 @@ ProgramEnd Program::run() const {
     const Clock::time_point start = Clock::now();
     const pid_t child = ::fork();
     if (child == 0) {
-        become(*this, output.writeEnd.get(), error.writeEnd.get());
+        become(output.writeEnd.get(), error.writeEnd.get());
     }
     output.writeEnd = FileDescriptor();
     error.writeEnd = FileDescriptor();
@@ -88,6 +61,32 @@ ProgramEnd Program::run() const {
     ::waitpid(child, &status, 0);
     end.status = WIFSIGNALED(status) ? -WTERMSIG(status) : WEXITSTATUS(status);
     return end;
+}
+
+void Program::become(int output, int error) const {
+    const FileDescriptor null(::open("/dev/null", O_RDONLY | O_CLOEXEC));
+    ::dup2(null.get(), STDIN_FILENO);
+    ::dup2(output, STDOUT_FILENO);
+    ::dup2(error, STDERR_FILENO);
+    for (const auto& [name, value] : environment) {
+        value ? ::setenv(name.c_str(), value->c_str(), 1) : ::unsetenv(name.c_str());
+    }
+    if (root && (::chroot(root->c_str()) != 0 || ::chdir("/") != 0)) {
+        ::_exit(125);
+    }
+    if (user && (::setgroups(0, nullptr) != 0 || ::setgid(*user) != 0 || ::setuid(*user) != 0)) {
+        ::_exit(126);
+    }
+    if (inChild) {
+        inChild();
+    }
+    std::vector<char*> words{const_cast<char*>(path.c_str())};
+    for (const std::string& argument : arguments) {
+        words.push_back(const_cast<char*>(argument.c_str()));
+    }
+    words.push_back(nullptr);
+    ::execv(path.c_str(), words.data());
+    ::_exit(127);
 }
 
 void Program::runAs(uid_t other, const std::string& place) {

@@ -39,6 +39,10 @@ struct Program {
     void runAs(uid_t other, const std::string& place);
 
     [[nodiscard]] ProgramEnd run() const;
+
+    /// In a child: becomes the program, with these two descriptors as its output and error and the
+    /// null device as its input. Ends with 127 where there is no such program.
+    [[noreturn]] void become(int output, int error) const;
 };
 
 /// The built uninstaller with these arguments, under the test root when one is given, else without
