@@ -21,7 +21,8 @@ protected:
         fillMenuBar(*window.menuBar(), mainMenu(),
                     [this](MenuAction action) { chosen.push_back(action); });
         window.show();
-        QApplication::setActiveWindow(&window);
+        window.activateWindow();
+        EXPECT_TRUE(QTest::qWaitForWindowActive(&window));
         text->setPlainText("a record");
         text->setReadOnly(true);
     }

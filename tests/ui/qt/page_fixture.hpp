@@ -33,7 +33,8 @@ protected:
     PageInAWindow() {
         window.setFixedSize(600, 596);
         window.show();
-        QApplication::setActiveWindow(&window);
+        window.activateWindow();
+        EXPECT_TRUE(QTest::qWaitForWindowActive(&window));
     }
 
     void render(const Page& shown) {
