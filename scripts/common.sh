@@ -60,7 +60,7 @@ install_packages() {
     bench_packages=(libbenchmark-dev findutils coreutils time)
 }
 
-# Runs a command quietly; what it printed is shown when it fails.
+# Runs a command quietly: what it printed is shown when it fails, and else only where it warned.
 quietly() {
     local log
     log=$(mktemp "$project/build/log.XXXXXX")
@@ -69,6 +69,7 @@ quietly() {
         rm -f "$log"
         fail "failed: $*"
     fi
+    grep -F 'warning:' "$log" >&2 || true
     rm -f "$log"
 }
 
