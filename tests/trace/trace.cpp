@@ -81,16 +81,13 @@ Program withoutLeakChecker(Program program) {
     return program;
 }
 
-} // namespace
-
-ProgramEnd trace(const Program& program, Follow follow, const Judge& judge) {
+ProgramEnd run(const Program& program, Tracer tracer) {
     const FileDescriptor output = opened(::memfd_create("output", MFD_CLOEXEC), "memfd_create");
     const FileDescriptor error = opened(::memfd_create("error", MFD_CLOEXEC), "memfd_create");
     WaitingChild child = startWaiting(withoutLeakChecker(program), output, error);
     const FileDescriptor process = opened(::pidfd_open(child.process, 0), "pidfd_open");
     // On a thread of its own: a tracer is a thread.
     std::future<int> status = std::async(std::launch::async, [&] {
-        Tracer tracer(follow, judge);
         tracer.seize(child.process);
         child.gate = FileDescriptor();
         return tracer.follow();
@@ -112,6 +109,12 @@ ProgramEnd trace(const Program& program, Follow follow, const Judge& judge) {
     end.output = contentsOf(output);
     end.error = contentsOf(error);
     return end;
+}
+
+} // namespace
+
+ProgramEnd trace(const Program& program, Follow follow, const Judge& judge) {
+    return run(program, Tracer(follow, judge));
 }
 
 std::string whyNotTraced() {
@@ -139,11 +142,15 @@ Recording record(const Program& program, Follow follow) {
     return recording;
 }
 
-Judge only(const SystemCall& call, Verdict verdict) {
-    return [call, verdict](const SystemCall& each) {
-        const bool same = each.thread == call.thread && each.index == call.index;
+Struck strike(const Program& program, Follow follow, const SystemCall& recorded, Verdict verdict) {
+    Struck struck;
+    const auto judge = [&](const SystemCall& call) {
+        const bool same = call.index == recorded.index && call.number == recorded.number;
+        struck.came = struck.came || same;
         return same ? verdict : Verdict{};
     };
+    struck.end = run(program, Tracer(follow, judge, recorded.thread));
+    return struck;
 }
 
 } // namespace kelmar::test

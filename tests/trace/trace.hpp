@@ -54,8 +54,16 @@ struct Recording {
 
 Recording record(const Program& program, Follow follow);
 
-/// A judge for one system call: `verdict` falls on that thread's call with that index, whichever it
-/// is in this run.
-Judge only(const SystemCall& call, Verdict verdict);
+/// A run in which a verdict was to fall on one system call.
+struct Struck {
+    bool came = false; ///< it fell: the thread made that call in this run too
+    ProgramEnd end;
+};
+
+/// Runs `program` again and lets `verdict` fall on the call that is `recorded`: the same thread's,
+/// with the same index and number. Only that thread is stopped at system calls, the others run
+/// freely, which takes a fraction of the time. Who waits for others, such as a thread that looks
+/// around until something has happened, may make fewer calls this time; then it does not fall.
+Struck strike(const Program& program, Follow follow, const SystemCall& recorded, Verdict verdict);
 
 } // namespace kelmar::test

@@ -136,10 +136,11 @@ TEST_F(Trace, KillsEverybodyAtOneSystemCall) {
     const test::Program program = sample({"folder", folder / "made"});
     const SystemCall call = first(test::record(program, Follow::processes), SYS_mkdirat);
     std::filesystem::remove(folder / "made");
-    const test::ProgramEnd end =
-        test::trace(program, Follow::processes, test::only(call, {Verdict::Kind::kill}));
-    EXPECT_EQ(end.status, -SIGKILL);
-    EXPECT_EQ(end.output, "");
+    const test::Struck struck =
+        test::strike(program, Follow::processes, call, {Verdict::Kind::kill});
+    EXPECT_TRUE(struck.came);
+    EXPECT_EQ(struck.end.status, -SIGKILL);
+    EXPECT_EQ(struck.end.output, "");
     EXPECT_FALSE(std::filesystem::exists(folder / "made")) << "it is not executed";
 }
 
@@ -183,12 +184,41 @@ TEST_F(Trace, LetsOneSystemCallFailWithoutExecutingIt) {
     std::filesystem::remove(folder / "made");
     const SystemCall call = first(recording, SYS_mkdirat);
     for (const int error : {ENOSPC, EINTR}) {
-        const test::ProgramEnd end =
-            test::trace(program, Follow::threads, test::only(call, {Verdict::Kind::fail, error}));
-        EXPECT_EQ(end.output, std::string(std::strerror(error)) + "\n");
-        EXPECT_EQ(end.status, 0);
+        const test::Struck struck =
+            test::strike(program, Follow::threads, call, {Verdict::Kind::fail, error});
+        EXPECT_TRUE(struck.came);
+        EXPECT_EQ(struck.end.output, std::string(std::strerror(error)) + "\n");
+        EXPECT_EQ(struck.end.status, 0);
         EXPECT_FALSE(std::filesystem::exists(folder / "made"));
     }
+}
+
+TEST_F(Trace, StrikesOneThreadsCallAndNoOthers) {
+    if (const std::string reason = test::whyNoneFails(); !reason.empty()) {
+        GTEST_SKIP() << reason;
+    }
+    test::TemporaryFolder folder;
+    const std::string makeFolder = std::string(KELMAR_TRACED_SAMPLE) + " folder ";
+    test::Program program;
+    program.path = "/bin/sh";
+    program.arguments = {"-c",
+                         makeFolder + (folder / "one") + "; " + makeFolder + (folder / "two")};
+    std::vector<SystemCall> made;
+    for (const SystemCall& call : test::record(program, Follow::processes).calls) {
+        if (call.number == SYS_mkdirat) {
+            made.push_back(call);
+        }
+    }
+    ASSERT_EQ(made.size(), 2U);
+    std::filesystem::remove(folder / "one");
+    std::filesystem::remove(folder / "two");
+    const Verdict full{Verdict::Kind::fail, ENOSPC};
+    const test::Struck struck = test::strike(program, Follow::processes, made[1], full);
+    EXPECT_TRUE(struck.came);
+    EXPECT_EQ(struck.end.output, "made\nNo space left on device\n");
+    SystemCall never = made[1];
+    never.index = 1000;
+    EXPECT_FALSE(test::strike(program, Follow::processes, never, full).came);
 }
 
 TEST_F(Trace, NamesASystemCallForPeople) {

@@ -34,7 +34,10 @@ std::string executableOf(pid_t process) {
 
 } // namespace
 
-Tracer::Tracer(Follow follow, Judge judge) : follow_(follow), judge_(std::move(judge)) {}
+Tracer::Tracer(Follow follow, Judge judge, std::optional<ThreadPath> watched)
+    : follow_(follow),
+      judge_(std::move(judge)),
+      watched_(std::move(watched)) {}
 
 void Tracer::seize(pid_t process) {
     long options =
@@ -156,8 +159,9 @@ void Tracer::atSystemCall(pid_t thread) {
 }
 
 void Tracer::resume(pid_t thread, int signal) const {
+    const bool stops = executing_ && (!watched_ || threads_.at(thread).path == *watched_);
     // Who was killed meanwhile is not there any more.
-    ::ptrace(executing_ ? PTRACE_SYSCALL : PTRACE_CONT, thread, nullptr, signal);
+    ::ptrace(stops ? PTRACE_SYSCALL : PTRACE_CONT, thread, nullptr, signal);
 }
 
 void Tracer::ended(pid_t thread, int status) {

@@ -4,6 +4,7 @@
 
 #include <cstddef>
 #include <map>
+#include <optional>
 #include <set>
 #include <string>
 
@@ -15,7 +16,8 @@ namespace kelmar::test {
 /// waits for whomever it follows, not for other children of this process.
 class Tracer {
 public:
-    Tracer(Follow follow, Judge judge);
+    /// With `watched`, only that thread is stopped at system calls and judged.
+    Tracer(Follow follow, Judge judge, std::optional<ThreadPath> watched = std::nullopt);
 
     /// Becomes the tracer of `process`, which has yet to execute its program. Throws
     /// std::system_error when it may not.
@@ -44,6 +46,7 @@ private:
 
     Follow follow_;
     Judge judge_;
+    std::optional<ThreadPath> watched_;
     pid_t program_ = -1;
     int status_ = 0;
     bool executing_ = false; ///< the program, and no more the test's preparations
