@@ -1,8 +1,8 @@
 #include "system/text/foundation_text_macos.hpp"
+#include "system/text/harmless_text.hpp"
 #include "tests/gnustep/harness/page_fixture.hpp"
 #include "tests/gnustep/harness/page_texts.hpp"
 #include "tests/gnustep/harness/sample_pages.hpp"
-#include "system/text/harmless_text.hpp"
 
 namespace kelmar {
 namespace {

@@ -93,7 +93,7 @@ ProgramEnd run(const Program& program, Tracer tracer) {
         return tracer.follow();
     });
     ProgramEnd end;
-    if (status.wait_for(program.patience) == std::future_status::timeout) {
+    if (status.wait_for(program.timeout) == std::future_status::timeout) {
         end.timedOut = true;
         ::pidfd_send_signal(process.get(), SIGKILL, nullptr, 0);
     }

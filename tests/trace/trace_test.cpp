@@ -167,7 +167,7 @@ TEST_F(Trace, LeavesNobodyBehind) {
 
 TEST_F(Trace, EndsAProgramThatNeverDoes) {
     test::Program program = sample({"wait"});
-    program.patience = std::chrono::seconds(1);
+    program.timeout = std::chrono::seconds(1);
     const test::ProgramEnd end = test::record(program, Follow::processes).end;
     EXPECT_TRUE(end.timedOut);
     EXPECT_EQ(end.status, -SIGKILL);
