@@ -145,7 +145,7 @@ TEST_F(Removal, AnEmptyFolderThatCannotGoIsAFailureInTheSystemsWords) {
     tree.folder(home("/Kelmar"));
     const test::Unremovable locked(home("/Kelmar"));
     if (!locked.works()) {
-        GTEST_SKIP() << test::Unremovable::obstacle;
+        GTEST_SKIP() << test::Unremovable::skipReason;
     }
     engine.removeIfEmpty(home("/Kelmar"));
     EXPECT_EQ(transcript.lines, (Lines{"doing Removing ~/Kelmar",
