@@ -219,9 +219,9 @@ remove() { # NAME: an entry of the current folder, with everything in it
     if go $#trail && ! look $1; then say OK $place; else say FAIL $place ${reason:-it is still there}; fi
 }
 
-zmodload -F zsh/files b:zf_rm b:zf_rmdir && zmodload -F zsh/stat b:zstat || finish "zsh lacks what it takes to remove it"
+zmodload -F zsh/files b:zf_rm b:zf_rmdir && zmodload -F zsh/stat b:zstat ||
+    finish "zsh lacks what it takes to remove it"
 mounts=$(mount 2>/dev/null)
-[[ -n $mounts ]] || finish "the mounted disks cannot be listed"
 for place in $3 /System/Volumes/Data$3; do # a Mac may name a folder by way of its volume
     [[ $mounts != *" on $place "* && $mounts != *" on $place/"* ]] || finish "a disk is mounted inside it"
 done
@@ -229,6 +229,7 @@ words=$(zstat -L -- $item 2>&1 >/dev/null) || case $words in
 *(no such file or directory|not a directory)) finish ;;
 *) finish ${words##*: } ;;
 esac
+[[ -n $mounts ]] || finish "the mounted disks cannot be listed"
 builtin cd -q -- $root 2>/dev/null && [[ $(builtin pwd -P) == $root ]] || finish "it is reached through a link"
 zstat -A s -- . && ids=($s[1]:$s[2]) device=$s[1] && look $top || finish
 [[ $s[5] == $asker ]] || mode=whole

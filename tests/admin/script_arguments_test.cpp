@@ -90,18 +90,5 @@ TEST_F(ScriptArguments, AStatusFileThatIsNoPlainFileOfTheUserIsRefused) {
     expectRefusal({"--status", "/dev/null", "--all-users", "--test-root", root}, 1, refusal);
 }
 
-TEST_F(ScriptArguments, AStatusFileOfSomebodyElseIsRefused) {
-    if (::getuid() != 0) {
-        GTEST_SKIP() << "only root can give a file to another user";
-    }
-    giveAway(status);
-    expectRefusal({"--status", status, "--all-users", "--test-root", root}, 1,
-                  "the status file is not a plain file of the user");
-    giveAway(home(""));
-    const test::ProgramEnd end =
-        runWith({"--status", status, "--home", home(""), "--test-root", root});
-    EXPECT_EQ(end.status, 0) << "it belongs to the home folder's owner: " << end.error;
-}
-
 } // namespace
 } // namespace kelmar

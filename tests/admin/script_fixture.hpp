@@ -19,7 +19,8 @@ namespace kelmar::test {
 class Script : public testing::Test {
 protected:
     using Lines = std::vector<std::string>;
-    static constexpr uid_t foreigner = 12345;
+    /// Another user, whom every system has: nobody.
+    static constexpr uid_t foreigner = 65534;
 
     Script() {
         tree.file(status);
@@ -28,11 +29,18 @@ protected:
 
     /// Runs the script with exactly these arguments.
     [[nodiscard]] static ProgramEnd runWith(const Lines& arguments) {
+        return program(arguments).run();
+    }
+
+    /// The script, to be run. Whoever runs the tests by sudo is not the one who asks.
+    [[nodiscard]] static Program program(const Lines& arguments,
+                                         const std::string& script = KELMAR_SCRIPT) {
         Program program;
         program.path = "/bin/bash";
-        program.arguments = {KELMAR_SCRIPT};
+        program.arguments = {script};
         program.arguments.insert(program.arguments.end(), arguments.begin(), arguments.end());
-        return program.run();
+        program.environment["SUDO_UID"] = std::nullopt;
+        return program;
     }
 
     /// Runs it as the uninstaller would under the test root: it ends well and without a word.

@@ -93,56 +93,6 @@ TEST_F(Script, AnyOtherFolderIsNotSharedData) {
     EXPECT_EQ(test::contents(folder / "t/system"), before);
 }
 
-TEST_F(Script, RemovesTheTopmostForeignThingsBelowTheHomeAndNothingOfTheUsers) {
-    if (::getuid() != 0) {
-        GTEST_SKIP() << "only root can give a file to another user";
-    }
-    tree.app(Scope::me, "4").services(Scope::me).agents(Scope::me);
-    tree.file(home("/Library/Kelmar/own/foreign/deep")).file(home("/Library/Kelmar/own/kept"));
-    tree.file(home("/Library/Kelmar/own/foreign 2")).file(home("/Library/Other/foreign"));
-    const std::string worker = tree.paths().agents(Scope::me)[1];
-    giveAway(home("/Library/Kelmar/own/foreign"));
-    giveAway(home("/Library/Kelmar/own/foreign 2"));
-    giveAway(home("/Library/Other/foreign"));
-    giveAway(worker);
-    const Lines lines = run({"--home", home("")});
-    EXPECT_EQ(std::count(lines.begin(), lines.end(), "OK " + home("/Library/Kelmar/own/foreign")),
-              1);
-    EXPECT_EQ(std::count(lines.begin(), lines.end(), "OK " + home("/Library/Kelmar/own/foreign 2")),
-              1);
-    EXPECT_EQ(std::count(lines.begin(), lines.end(), "OK " + worker), 1);
-    EXPECT_EQ(lines.size(), 7U) << "a DOING and an OK each, and DONE";
-    EXPECT_FALSE(isThere(home("/Library/Kelmar/own/foreign")));
-    EXPECT_FALSE(isThere(home("/Library/Kelmar/own/foreign 2")));
-    EXPECT_FALSE(isThere(worker));
-    EXPECT_TRUE(isThere(home("/Library/Kelmar/own/kept")));
-    EXPECT_TRUE(isThere(tree.paths().agents(Scope::me)[0]));
-    EXPECT_TRUE(isThere(home("/Applications/Kelmar.app/Contents/Info.plist")));
-    EXPECT_TRUE(isThere(home("/Library/Other/foreign"))) << "no item of Kelmar's";
-}
-
-TEST_F(Script, AnItemThatIsForeignAsAWholeGoesAsAWhole) {
-    if (::getuid() != 0) {
-        GTEST_SKIP() << "only root can give a file to another user";
-    }
-    tree.services(Scope::me);
-    giveAway(home("/Library/Kelmar"));
-    EXPECT_EQ(run({"--home", home("")}),
-              (Lines{"DOING " + home("/Library/Kelmar"), "OK " + home("/Library/Kelmar"), "DONE"}));
-}
-
-TEST_F(Script, OddNamesBelowTheHomeMakeNoLinesOfTheirOwn) {
-    if (::getuid() != 0) {
-        GTEST_SKIP() << "only root can give a file to another user";
-    }
-    const std::string name = home("/Library/Kelmar/-rf x\nOK \tfake\nDONE");
-    tree.file(name);
-    giveAway(name);
-    const std::string shown = home("/Library/Kelmar/-rf x?OK ?fake?DONE");
-    EXPECT_EQ(run({"--home", home("")}), (Lines{"DOING " + shown, "OK " + shown, "DONE"}));
-    EXPECT_FALSE(isThere(name));
-}
-
 TEST_F(Script, WhatCannotBeRemovedFailsInRmsWords) {
     tree.everything();
     const test::Unremovable locked(system("/Library/Kelmar/lib/models.conf"));
