@@ -1,4 +1,5 @@
 #include "admin/status_tail.hpp"
+#include "tests/support/durations.hpp"
 #include "tests/support/temporary_folder.hpp"
 
 #include <gtest/gtest.h>
@@ -19,8 +20,8 @@
 namespace kelmar {
 namespace {
 
+using namespace std::chrono_literals;
 using Lines = std::vector<std::string>;
-using Clock = std::chrono::steady_clock;
 const std::string replacement = "\xEF\xBF\xBD";
 
 class Tail : public testing::Test {
@@ -41,7 +42,7 @@ protected:
     /// Waits until so many lines are there.
     [[nodiscard]] bool waitFor(std::size_t count) {
         std::unique_lock lock(mutex);
-        return arrived.wait_for(lock, std::chrono::seconds(10),
+        return arrived.wait_for(lock, std::chrono::seconds(60),
                                 [&] { return lines.size() >= count; });
     }
 
@@ -65,12 +66,18 @@ protected:
 
 TEST_F(Tail, ReadsAtOnceOnStart) {
     append("one\n");
-    const auto start = Clock::now();
-    tail.start();
-    EXPECT_TRUE(waitFor(1));
-    EXPECT_LT(Clock::now() - start, std::chrono::milliseconds(150));
-    tail.stop();
-    EXPECT_EQ(lines, Lines{"one"});
+    const auto untilRead = [this] {
+        lines.clear();
+        StatusTail fresh(file, [this](const std::string& line) { receive(line); });
+        const auto took = test::timeOf([&] {
+            fresh.start();
+            EXPECT_TRUE(waitFor(1));
+        });
+        fresh.stop();
+        EXPECT_EQ(lines, Lines{"one"});
+        return took;
+    };
+    EXPECT_LT(test::shortestOf(150ms, untilRead), 150ms);
 }
 
 TEST_F(Tail, ALineInTwoPiecesIsHandedOutOnceWhole) {
@@ -186,11 +193,12 @@ TEST_F(Tail, AHundredThousandLinesArriveInOrder) {
     for (int number = 0; number < 100'000; ++number) {
         text += "LOG " + std::to_string(number) + "\n";
     }
-    const auto start = Clock::now();
     append(text);
-    tail.start();
-    tail.stop();
-    EXPECT_LT(Clock::now() - start, std::chrono::seconds(5));
+    EXPECT_LT(test::workOf([this] {
+                  tail.start();
+                  tail.stop();
+              }),
+              5s);
     ASSERT_EQ(lines.size(), 100'000U);
     for (std::size_t number = 0; number < lines.size(); ++number) {
         ASSERT_EQ(lines[number], "LOG " + std::to_string(number));
@@ -213,23 +221,28 @@ TEST_F(Tail, AMegabyteWithoutALineEndIsOneLine) {
 TEST_F(Tail, ALineReachesTheCallbackWithinTwoPeriods) {
     append("");
     tail.start();
-    for (std::size_t round = 1; round <= 5; ++round) {
-        std::this_thread::sleep_for(std::chrono::milliseconds(70));
-        const auto written = Clock::now();
+    int inTime = 0;
+    for (std::size_t round = 1; round <= 9; ++round) {
+        std::this_thread::sleep_for(70ms);
         append("line\n");
+        std::this_thread::sleep_for(400ms);
+        inTime += soFar().size() == round ? 1 : 0;
         EXPECT_TRUE(waitFor(round));
-        EXPECT_LT(Clock::now() - written, std::chrono::milliseconds(400));
     }
     tail.stop();
+    EXPECT_GT(inTime, 4) << "a busy machine may have held back the others";
 }
 
 TEST_F(Tail, StopDoesNotWaitForTheNextPeriod) {
     append("a\n");
-    tail.start();
-    EXPECT_TRUE(waitFor(1));
-    const auto start = Clock::now();
-    tail.stop();
-    EXPECT_LT(Clock::now() - start, std::chrono::milliseconds(100));
+    const auto untilStopped = [this] {
+        lines.clear();
+        StatusTail fresh(file, [this](const std::string& line) { receive(line); });
+        fresh.start();
+        EXPECT_TRUE(waitFor(1));
+        return test::timeOf([&] { fresh.stop(); });
+    };
+    EXPECT_LT(test::shortestOf(100ms, untilStopped), 100ms);
 }
 
 TEST_F(Tail, OfATerabyteReadsNothingAndSaysSo) {

@@ -1,4 +1,5 @@
 #include "engine/uninstaller.hpp"
+#include "tests/support/durations.hpp"
 #include "tests/support/mac_tree.hpp"
 #include "tests/support/sleeper.hpp"
 #include "tests/support/temporary_folder.hpp"
@@ -17,13 +18,9 @@
 namespace kelmar {
 namespace {
 
+using namespace std::chrono_literals;
 using Lines = std::vector<std::string>;
-using std::chrono::seconds;
 using test::Sleeper;
-
-std::chrono::steady_clock::time_point now() {
-    return std::chrono::steady_clock::now();
-}
 
 class Closing : public testing::Test {
 protected:
@@ -36,10 +33,13 @@ protected:
 };
 
 TEST(WaitForExit, AnEmptyListIsGoneAtOnce) {
-    const auto start = now();
-    EXPECT_TRUE(Uninstaller::waitForExit({}, 10));
-    EXPECT_TRUE(Uninstaller::waitForExit({}, 0));
-    EXPECT_LT(now() - start, std::chrono::milliseconds(100));
+    const auto took = [] {
+        return test::timeOf([] {
+            EXPECT_TRUE(Uninstaller::waitForExit({}, 10));
+            EXPECT_TRUE(Uninstaller::waitForExit({}, 0));
+        });
+    };
+    EXPECT_LT(test::shortestOf(100ms, took), 100ms);
 }
 
 TEST(WaitForExit, AProcessThatHasGoneIsSeenWithoutASleep) {
@@ -48,16 +48,19 @@ TEST(WaitForExit, AProcessThatHasGoneIsSeenWithoutASleep) {
         ::_exit(0);
     }
     ::waitpid(child, nullptr, 0);
-    const auto start = now();
-    EXPECT_TRUE(Uninstaller::waitForExit({child}, 10));
-    EXPECT_LT(now() - start, std::chrono::milliseconds(150));
+    const auto took = [child] {
+        return test::timeOf([child] { EXPECT_TRUE(Uninstaller::waitForExit({child}, 10)); });
+    };
+    EXPECT_LT(test::shortestOf(150ms, took), 150ms);
 }
 
 TEST(WaitForExit, AProcessThatStaysIsWaitedForNoLongerThanTheBound) {
-    const auto start = now();
-    EXPECT_FALSE(Uninstaller::waitForExit({::getpid()}, 0.5));
-    EXPECT_GE(now() - start, std::chrono::milliseconds(500));
-    EXPECT_LT(now() - start, seconds(3));
+    const auto took = [] {
+        return test::timeOf([] { EXPECT_FALSE(Uninstaller::waitForExit({::getpid()}, 0.5)); });
+    };
+    const auto shortest = test::shortestOf(3s, took);
+    EXPECT_GE(shortest, 500ms);
+    EXPECT_LT(shortest, 3s);
     EXPECT_FALSE(Uninstaller::waitForExit({::getpid()}, 0));
 }
 
@@ -102,14 +105,18 @@ TEST_F(Closing, ProcessesInsideTheFoldersAreStopped) {
 }
 
 TEST_F(Closing, AProcessThatIgnoresTheSignalIsKilled) {
-    Sleeper stubborn(tree.paths().services(Scope::me) + "/bin/worker",
-                     Sleeper::ignoring({SIGTERM}));
-    stubborn.reapInBackground();
-    const auto start = now();
-    engine.stopProcesses({tree.paths().services(Scope::me)});
-    EXPECT_GE(now() - start, seconds(10));
-    EXPECT_LT(now() - start, seconds(14));
-    EXPECT_TRUE(stubborn.hasEnded());
+    const auto took = [this] {
+        Sleeper stubborn(tree.paths().services(Scope::me) + "/bin/worker",
+                         Sleeper::ignoring({SIGTERM}));
+        stubborn.reapInBackground();
+        const auto time =
+            test::timeOf([this] { engine.stopProcesses({tree.paths().services(Scope::me)}); });
+        EXPECT_TRUE(stubborn.hasEnded());
+        return time;
+    };
+    const auto shortest = test::shortestOf(14s, took);
+    EXPECT_GE(shortest, 10s);
+    EXPECT_LT(shortest, 14s);
 }
 
 TEST_F(Closing, WithoutProcessesNothingIsSaid) {

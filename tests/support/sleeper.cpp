@@ -43,7 +43,7 @@ Sleeper::Sleeper(std::string path, const Preparation& prepare) : path_(std::move
         ::_exit(127);
     }
     // Until the child has become the program.
-    const auto limit = std::chrono::steady_clock::now() + std::chrono::seconds(5);
+    const auto limit = std::chrono::steady_clock::now() + std::chrono::seconds(60);
     while (executablePath(process_) != path_ && std::chrono::steady_clock::now() < limit) {
         std::this_thread::sleep_for(std::chrono::milliseconds(1));
     }

@@ -65,7 +65,7 @@ TEST_P(DispatcherContract, RunsBackgroundJobsBesideEachOther) {
     std::atomic<int> met{0};
     const auto meet = [&] {
         ++meeting;
-        for (int wait = 0; wait < 2'000 && meeting != 2; ++wait) {
+        for (int wait = 0; wait < 30'000 && meeting != 2; ++wait) {
             std::this_thread::sleep_for(std::chrono::milliseconds(1));
         }
         met += meeting == 2 ? 1 : 0;
