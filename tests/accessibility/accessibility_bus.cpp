@@ -100,7 +100,7 @@ AccessibilityBus::AccessibilityBus() {
     }
     registry_ = std::make_unique<BackgroundProgram>(registry, std::vector<std::string>{});
     waitForName(registryName);
-    constexpr int milliseconds = 5'000;
+    constexpr int milliseconds = 60'000;
     atspi_init();
     atspi_set_timeout(milliseconds, milliseconds);
     // What a program showed a moment ago says nothing about what it shows.

@@ -56,7 +56,9 @@ Program Window::onTheScreen(Program program) const {
 }
 
 void Window::open(const Program& started) {
-    running = std::make_unique<WindowProgram>(onTheScreen(started));
+    Program patient = onTheScreen(started);
+    patient.patience = std::chrono::hours(1); // a person's patience is `Deadline`
+    running = std::make_unique<WindowProgram>(patient);
     if (!eventually(
             [this] { return running->hasEnded() || (onScreen().id != 0 && !page().empty()); })) {
         throw std::runtime_error(onScreen().id != 0 ? "the window says nothing to screen readers"
