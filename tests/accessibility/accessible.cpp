@@ -39,7 +39,9 @@ void collectShown(const Accessible& from, std::vector<Accessible>& list) {
 Accessible::Accessible(_AtspiAccessible* object) : object_(held(object)) {}
 
 std::string Accessible::role() const {
-    return object_ ? takeString(atspi_accessible_get_role_name(object_.get(), nullptr)) : "";
+    const std::string name =
+        object_ ? takeString(atspi_accessible_get_role_name(object_.get(), nullptr)) : "";
+    return name == "button" ? "push button" : name; // as at-spi2 2.56 has it
 }
 
 std::string Accessible::name() const {

@@ -1,5 +1,6 @@
 #include "tests/support/mac_tree.hpp"
 #include "tests/support/program.hpp"
+#include "tests/support/rm_words.hpp"
 #include "tests/support/snapshot.hpp"
 #include "tests/support/temporary_folder.hpp"
 #include "tests/trace/trace.hpp"
@@ -239,9 +240,8 @@ TEST_F(Faults, AFolderWithoutWritePermissionIsNamedAndTheRestGoes) {
     const test::ProgramEnd end = program.run();
     EXPECT_EQ(end.status, 1);
     const std::string path = tree.paths().agents(Scope::me)[0];
-    EXPECT_NE(end.output.find(
-                  "    ~/Library/LaunchAgents/com.kelmar.api.plist: /bin/rm: cannot remove '" +
-                  path + "': Permission denied\n"),
+    EXPECT_NE(end.output.find("    ~/Library/LaunchAgents/com.kelmar.api.plist: " +
+                              test::rmRefusal(path, "Permission denied") + "\n"),
               std::string::npos)
         << end.output;
     EXPECT_FALSE(fs::exists(tree.paths().services(Scope::me)));

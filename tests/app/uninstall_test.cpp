@@ -2,6 +2,7 @@
 #include "tests/support/mac_tree.hpp"
 #include "tests/support/pipe.hpp"
 #include "tests/support/program.hpp"
+#include "tests/support/rm_words.hpp"
 #include "tests/support/snapshot.hpp"
 #include "tests/support/temporary_folder.hpp"
 #include "tests/support/unremovable.hpp"
@@ -78,8 +79,8 @@ TEST_F(UninstallOption, NamesWhatStayedWithTheTildeForm) {
     }
     const test::ProgramEnd end = uninstall("--delete-data");
     EXPECT_EQ(end.status, 1);
-    const std::string reason = "/bin/rm: cannot remove '" + tree.paths().home +
-                               "/Kelmar/Store/part-0': Operation not permitted";
+    const std::string reason =
+        test::rmRefusal(tree.paths().home + "/Kelmar/Store/part-0", "Operation not permitted");
     EXPECT_EQ(end.output, "==> Deleting your Kelmar data\n"
                           "    Could not remove ~/Kelmar/Store: " +
                               reason +

@@ -1,10 +1,12 @@
 #include "tests/box/uninstall_fixture.hpp"
+#include "tests/support/rm_words.hpp"
 
 namespace kelmar {
 namespace {
 
 using test::linesOf;
 using test::ProgramEnd;
+using test::rmRefusal;
 
 class Leftovers : public test::UninstallOnAPretendMac {
 protected:
@@ -26,19 +28,20 @@ TEST_F(Leftovers, OneOfEachKindIsNamedWithItsReason) {
     box->set("/box/receipts/:Users:ann/com.kelmar.pkg.app", "\n The package is in use.\n\n");
     box->set("/box/bootout/com.kelmar.worker", "5");
     box->set("/box/keychain/Kelmar Safe Storage", "stuck\n");
-    EXPECT_EQ(
-        notRemoved(uninstall("--delete-data")),
-        (Lines{"    /Library/Kelmar: a disk is mounted inside it",
-               "    ~/Applications/Kelmar.app: a disk is mounted inside it",
-               "    ~/Applications/Kelmar.app: /bin/rm: cannot remove "
-               "'/Users/ann/Applications/Kelmar.app/Contents/MacOS': Device or resource busy",
-               "    Install record com.kelmar.pkg.app: The package is in use.",
-               "    ~/Library/Caches/com.quobrintal.app: /bin/rm: cannot remove "
-               "'/Users/ann/Library/Caches/com.quobrintal.app/of the system/x': Permission denied",
-               "    Install record com.kelmar.pkg.app: pkgutil still lists it",
-               "    Install record com.kelmar.pkg.app: pkgutil still lists it",
-               "    com.kelmar.worker: the service is still loaded",
-               "    Keychain item Kelmar Safe Storage: it is still in the keychain"}));
+    EXPECT_EQ(notRemoved(uninstall("--delete-data")),
+              (Lines{"    /Library/Kelmar: a disk is mounted inside it",
+                     "    ~/Applications/Kelmar.app: a disk is mounted inside it",
+                     "    ~/Applications/Kelmar.app: " +
+                         rmRefusal("/Users/ann/Applications/Kelmar.app/Contents/MacOS",
+                                   "Device or resource busy"),
+                     "    Install record com.kelmar.pkg.app: The package is in use.",
+                     "    ~/Library/Caches/com.quobrintal.app: " +
+                         rmRefusal("/Users/ann/Library/Caches/com.quobrintal.app/of the system/x",
+                                   "Permission denied"),
+                     "    Install record com.kelmar.pkg.app: pkgutil still lists it",
+                     "    Install record com.kelmar.pkg.app: pkgutil still lists it",
+                     "    com.kelmar.worker: the service is still loaded",
+                     "    Keychain item Kelmar Safe Storage: it is still in the keychain"}));
 }
 
 TEST_F(Leftovers, ASecondRunRemovesWhatTheFirstCouldNot) {
