@@ -10,6 +10,7 @@ set(for_all_to_run ${for_all} OWNER_EXECUTE GROUP_EXECUTE WORLD_EXECUTE)
 # CMake makes folders as the umask has it, and a copied folder's mode is said here once.
 set(CMAKE_INSTALL_DEFAULT_DIRECTORY_PERMISSIONS ${for_all_to_run})
 
+# Copies SOURCE into FOLDER of the bundle's contents as NAME, with the permissions that follow.
 function(place source folder name)
   file(COPY ${source} DESTINATION ${BUNDLE}/Contents/${folder} FILE_PERMISSIONS ${ARGN})
   cmake_path(GET source FILENAME called)

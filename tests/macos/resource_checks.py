@@ -65,7 +65,7 @@ def information_list(build):
         # A second reader beside Python's own.
         output_of("plistutil", "-i", str(build.contents / "Info.plist"), "-f", "bin", "-o", os.devnull)
         found = plistlib.loads(data)
-    except Exception as error:
+    except Exception as error:  # pylint: disable=broad-exception-caught # whatever stops a reader is a finding
         yield f"not a property list: {error}"
         return
     usage = found.pop("NSAppleEventsUsageDescription", "")
@@ -95,9 +95,9 @@ def picture(build):
     yield from icon.findings_in(path.read_bytes())
     # A second reader, for the two that aren't PNG.
     listing = output_of("icns2png", "--list", str(path))
-    for size in (16, 32):
-        if not re.search(rf"{size}x{size} 32-bit icon .*\n.*{size}x{size} 8-bit mask", listing):
-            yield f"icns2png finds no icon of {size}"
+    for side in (16, 32):
+        if not re.search(rf"{side}x{side} 32-bit icon .*\n.*{side}x{side} 8-bit mask", listing):
+            yield f"icns2png finds no icon of {side}"
 
 
 def size(build):

@@ -19,12 +19,11 @@ from comparison import Comparison
 def main(folder):
     beside = os.path.dirname(os.path.abspath(__file__))
     errors = []
-    lists = []
-    for name in ("absent.txt", "different.txt", "renamed.txt"):
-        entries, complaints = known.read(os.path.join(beside, name))
-        lists.append(entries)
+    lists = {}
+    for name in ("absent", "different", "renamed"):
+        lists[name], complaints = known.read(os.path.join(beside, f"{name}.txt"))
         errors += complaints
-    absent, different, renamed = lists
+    absent, different, renamed = lists["absent"], lists["different"], lists["renamed"]
     comparison = Comparison(headers.declared(folder), headers.gnustep(), renamed).run()
     errors += known.complaints(comparison, absent, different, renamed)
     for line in errors:

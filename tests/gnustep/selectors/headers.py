@@ -48,6 +48,7 @@ class Headers:
 
 
 def children(cursor):
+    # pylint: disable-next=protected-access # the public one throws where the kind has no name
     return [each for each in cursor.get_children() if each._kind_id in NAMED_KINDS]
 
 

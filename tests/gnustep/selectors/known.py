@@ -7,10 +7,10 @@ def read(path):
     errors = []
     with open(path, encoding="utf-8") as file:
         for number, line in enumerate(file, 1):
-            name, bar, reason = (each.strip() for each in line.partition("|"))
+            name, separator, reason = (each.strip() for each in line.partition("|"))
             if not name or name.startswith("#"):
                 continue
-            if not bar or not reason:
+            if not separator or not reason:
                 errors.append(f"{path}:{number}: no reason")
             elif name in reasons:
                 errors.append(f"{path}:{number}: a second time: {name}")

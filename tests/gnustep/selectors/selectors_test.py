@@ -69,8 +69,8 @@ class Agreement(unittest.TestCase):
         self.assertAgrees(button("- (nullable instancetype)initWithName:(nonnull NSString *)name;"))
 
     def test_an_enumeration_is_a_number(self):
-        self.assertAgrees("typedef enum Tag : NSInteger { One = 1 } Tag;".replace("One = 1", "On = 1")
-                          + button("- (void)setTag:(Tag)tag;"))
+        tag = "typedef enum Tag : NSInteger { On = 1 } Tag;"
+        self.assertAgrees(tag + button("- (void)setTag:(Tag)tag;"))
 
     def test_a_constant_is_found_by_its_older_name(self):
         self.assertAgrees("enum { StateOn = 1 };", {"constant StateOn": "On"})
@@ -112,8 +112,8 @@ class Mutation(unittest.TestCase):
         self.assertDifferent("+[Button first]", button("+ (NSString *)first;"))
 
     def test_a_wrong_superclass(self):
-        self.assertDifferent("class Button", "@interface Other : NSObject\n@end\n"
-                                             "@interface Button : NSString\n@end".replace("Other", "NSString"))
+        declarations = "@interface NSString : NSObject\n@end\n@interface Button : NSString\n@end"
+        self.assertDifferent("class Button", declarations)
 
     def test_a_wrong_value_or_a_wrong_older_name(self):
         older = {"constant StateOn": "Off"}
@@ -172,7 +172,7 @@ class Whole(unittest.TestCase):
             with open(path, "w", encoding="utf-8") as file:
                 file.write(text.replace(before, after))
             check = os.path.join(os.path.dirname(os.path.abspath(__file__)), "check_selectors.py")
-            return subprocess.run([check, copy], capture_output=True, text=True)
+            return subprocess.run([check, copy], capture_output=True, text=True, check=False)
 
     def test_a_misspelt_selector_is_refused(self):
         end = self.run_on("Foundation/NSString.h", "allowLossyConversion:", "allowLossyConversions:")

@@ -34,7 +34,7 @@ ARRAY = {TypeKind.CONSTANTARRAY, TypeKind.INCOMPLETEARRAY, TypeKind.VARIABLEARRA
 
 
 def object_name(spelling):
-    """"NSArray" of "__kindof NSArray<NSString *> * _Nullable": what an object holds is not compared, and
+    """Of "__kindof NSArray<NSString *> * _Nullable" the "NSArray": what an object holds is not compared, and
     whether it may be nil neither, since GNUstep says nothing about the two."""
     name = spelling.split("<")[0].replace("__kindof", "").replace("const", "").replace("*", " ")
     word = name.split()[0]
