@@ -57,7 +57,7 @@ Program Window::onTheScreen(Program program) const {
 
 void Window::open(const Program& started) {
     Program patient = onTheScreen(started);
-    patient.patience = std::chrono::hours(1); // a person's patience is `Deadline`
+    patient.timeout = std::chrono::hours(1); // a person's patience is `Deadline`
     running = std::make_unique<WindowProgram>(patient);
     if (!eventually(
             [this] { return running->hasEnded() || (onScreen().id != 0 && !page().empty()); })) {
