@@ -1,5 +1,5 @@
 #include "tests/admin/script_bait.hpp"
-#include "tests/admin/swapper.hpp"
+#include "tests/support/swapper.hpp"
 
 #include <iterator>
 

@@ -136,16 +136,27 @@ TEST_F(Script, TheCallersEnvironmentDecidesNothing) {
     tree.file(folder / "evil/startup", "touch " + (folder / "trapped") + "\n");
     std::filesystem::permissions(folder / "evil/rm", std::filesystem::perms(0755));
     const std::string trap = "() { touch " + (folder / "trapped") + "; }";
-    const std::map<std::string, std::optional<std::string>> all{
-        {"PATH", folder / "evil"},   {"IFS", "/"},
-        {"CDPATH", folder / "evil"}, {"ENV", folder / "evil/startup"},
-        {"GLOBIGNORE", "*"},         {"LC_ALL", "tr_TR.UTF-8"},
-        {"TIME_STYLE", "bad"},       {"FUNCNEST", "1"},
-        {"BASH_FUNC_rm%%", trap},    {"BASH_FUNC_set%%", trap},
-        {"BASH_FUNC_cd%%", trap},    {"BASH_FUNC_exec%%", trap}};
+    const std::map<std::string, std::optional<std::string>> all{{"PATH", folder / "evil"},
+                                                                {"IFS", "/"},
+                                                                {"CDPATH", folder / "evil"},
+                                                                {"ENV", folder / "evil/startup"},
+                                                                {"GLOBIGNORE", "*"},
+                                                                {"LC_ALL", "tr_TR.UTF-8"},
+                                                                {"TIME_STYLE", "bad"},
+                                                                {"FUNCNEST", "1"},
+                                                                {"BASH_FUNC_rm%%", trap},
+                                                                {"BASH_FUNC_set%%", trap},
+                                                                {"BASH_FUNC_cd%%", trap},
+                                                                {"BASH_FUNC_exec%%", trap},
+                                                                {"BASH_FUNC_rm()", trap},
+                                                                {"BASH_FUNC_exec()", trap},
+                                                                {"rm", trap},
+                                                                {"exec", trap}};
+    auto privileged = all; // the shell takes in nothing then, and looks as if it had been told so
+    privileged["SHELLOPTS"] = "privileged";
     const std::map<std::string, std::optional<std::string>> posix{{"POSIXLY_CORRECT", "1"},
                                                                   {"ENV", folder / "evil/startup"}};
-    for (const auto& environment : {all, posix}) {
+    for (const auto& environment : {all, privileged, posix}) {
         tree.everything();
         test::Program program;
         program.path = "/bin/bash";

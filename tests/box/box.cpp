@@ -2,6 +2,7 @@
 
 #include "tests/support/can_be_constructed.hpp"
 #include "tests/support/lines.hpp"
+#include "tests/support/mac_userland.hpp"
 
 #include <cerrno>
 #include <csignal>
@@ -42,6 +43,9 @@ std::optional<std::string> Box::skipReason() {
     if (::getuid() != 0) {
         return "a pretend Mac needs mounts of its own, and so root";
     }
+    if (MacUserland::isWanted() && MacUserland::skipReason()) {
+        return MacUserland::skipReason();
+    }
     return canBeConstructed<Box>()
                ? std::nullopt
                : std::optional<std::string>("this machine lets nobody mount an overlay");
@@ -66,6 +70,9 @@ Box::Box() : root_(folder_ / "root") {
         fs::permissions(place, fs::perms(0755));
     }
     write(outside("/box/calls"), "", fs::perms(0666));
+    if (MacUserland::isWanted()) {
+        MacUserland::install(mounts_, root_);
+    }
     addAccounts();
     fs::create_directories(outside("/box/bin"));
     const fs::path executable = test::uninstaller({}, {}).path;

@@ -1,4 +1,4 @@
-#include "tests/admin/swapper.hpp"
+#include "tests/support/swapper.hpp"
 
 #include <cstdlib>
 
