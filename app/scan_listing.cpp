@@ -13,8 +13,6 @@ namespace kelmar {
 
 namespace {
 
-const std::string indent = "    ";
-
 /// Names of data folders are ASCII, so a column is a byte.
 std::string column(std::string name) {
     constexpr std::size_t width = 12;

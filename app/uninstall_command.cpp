@@ -17,8 +17,6 @@ constexpr std::int32_t removed = 0;
 constexpr std::int32_t itemsLeft = 1;
 constexpr std::int32_t cancelled = 3;
 
-const std::string indent = "    ";
-
 std::set<std::string> selection(const Inventory& inventory, bool deleteData) {
     std::set<std::string> selected;
     if (deleteData) {

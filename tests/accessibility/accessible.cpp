@@ -160,9 +160,15 @@ std::vector<Accessible> Accessible::everything() const {
 }
 
 Accessible Accessible::find(const std::string& role, const std::string& name) const {
-    for (Accessible& each : everything()) {
+    for (const Accessible& each : children()) {
+        if (!each.is(showing)) {
+            continue;
+        }
         if (each.role() == role && each.name() == name) {
-            return std::move(each);
+            return each;
+        }
+        if (Accessible below = each.find(role, name)) {
+            return below;
         }
     }
     return {};

@@ -12,11 +12,11 @@ namespace {
 using Arguments = std::vector<std::string>;
 
 const Asker ann{"/Users/ann", "/var/folders/xy/T"};
-const std::string status =
+const std::string soundStatus =
     "/var/folders/xy/T/kelmar-uninstaller-0123ABCD-4567-4890-ABCD-0123456789AB/status";
 
 std::optional<std::string> reasonFor(Arguments arguments) {
-    arguments.insert(arguments.begin(), {"--status", status});
+    arguments.insert(arguments.begin(), {"--status", soundStatus});
     return reasonForRequest(arguments, ann);
 }
 
@@ -47,17 +47,17 @@ TEST(ScriptRequest, IsForNobodyElsesHome) {
 }
 
 TEST(ScriptRequest, NamesAStatusFileWhereTheProgramMakesThemAndNowhereElse) {
-    ASSERT_TRUE(reasonForRequest({"--status", status, "--all-users"}, ann));
+    ASSERT_TRUE(reasonForRequest({"--status", soundStatus, "--all-users"}, ann));
     const std::string folder = "/var/folders/xy/T/kelmar-uninstaller-";
     for (const std::string& other :
-         {std::string("/etc/pam.d/sudo"), folder + "/status", "/x" + status, status + "/status",
-          folder + "0123abcd-4567-4890-ABCD-0123456789AB/status",
+         {std::string("/etc/pam.d/sudo"), folder + "/status", "/x" + soundStatus,
+          soundStatus + "/status", folder + "0123abcd-4567-4890-ABCD-0123456789AB/status",
           folder + "0123ABCD-4567-4890-ABCD-0123456789A/status",
           folder + "0123ABCD-4567-4890-ABCD-0123456789AB/../status",
           folder + "0123ABCD-4567-4890-ABCD-0123456789AB/other", std::string()}) {
         EXPECT_EQ(reasonForRequest({"--status", other, "--all-users"}, ann), std::nullopt) << other;
     }
-    EXPECT_EQ(reasonForRequest({"--all-users", "--status", status}, ann), std::nullopt);
+    EXPECT_EQ(reasonForRequest({"--all-users", "--status", soundStatus}, ann), std::nullopt);
     EXPECT_EQ(reasonForRequest({"--all-users"}, ann), std::nullopt);
 }
 

@@ -1,4 +1,5 @@
 #include "engine/uninstaller.hpp"
+#include "tests/engine/samples.hpp"
 #include "tests/support/mac_tree.hpp"
 #include "tests/support/scripted_runner.hpp"
 #include "tests/support/temporary_folder.hpp"
@@ -19,18 +20,11 @@ namespace kelmar {
 namespace {
 
 namespace fs = std::filesystem;
+using test::installed;
 using Lines = std::vector<std::string>;
 using Arguments = std::optional<std::vector<std::string>>;
 using Failures = std::vector<Uninstaller::Failure>;
 using AdministratorOutcome = Uninstaller::AdministratorOutcome;
-
-Installation installed(Scope scope, bool needsAdministrator = false) {
-    Installation one;
-    one.scope = scope;
-    one.app = "/Kelmar.app";
-    one.needsAdministrator = needsAdministrator;
-    return one;
-}
 
 DataRoot dataRoot(Scope scope, const std::string& path) {
     return {

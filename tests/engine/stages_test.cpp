@@ -1,4 +1,5 @@
 #include "engine/uninstaller.hpp"
+#include "tests/engine/samples.hpp"
 #include "tests/support/mac_tree.hpp"
 
 #include <gtest/gtest.h>
@@ -10,6 +11,7 @@
 namespace kelmar {
 namespace {
 
+using test::installed;
 using Stage = Uninstaller::Stage;
 using Stages = std::vector<Uninstaller::TitledStage>;
 
@@ -24,14 +26,6 @@ const Uninstaller::TitledStage account{
 const Uninstaller::TitledStage settings{
     Stage::account, "Removing Kelmar's settings and permissions from your account"};
 const Uninstaller::TitledStage data{Stage::data, "Deleting your Kelmar data"};
-
-Installation installed(Scope scope, bool needsAdministrator = false) {
-    Installation one;
-    one.scope = scope;
-    one.app = "/Kelmar.app";
-    one.needsAdministrator = needsAdministrator;
-    return one;
-}
 
 DataRoot dataRoot(Scope scope) {
     const std::string path = scope == Scope::me ? "/mine" : "/shared";

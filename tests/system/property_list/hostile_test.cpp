@@ -1,6 +1,7 @@
 #include "system/property_list/binary.hpp"
 #include "system/property_list/property_list.hpp"
 #include "tests/support/durations.hpp"
+#include "tests/system/property_list/samples.hpp"
 
 #include <gtest/gtest.h>
 
@@ -14,7 +15,8 @@
 namespace kelmar {
 namespace {
 
-constexpr const char* key = "CFBundleShortVersionString";
+using test::key;
+using test::repeated;
 
 std::string bigEndian(std::uint64_t value, int size) {
     std::string bytes;
@@ -58,14 +60,6 @@ void expectNothingQuickly(const std::string& bytes) {
     const auto work =
         test::workOf([&bytes] { EXPECT_EQ(stringInPropertyList(bytes, key), std::nullopt); });
     EXPECT_LT(work, std::chrono::seconds(2));
-}
-
-std::string repeated(const std::string& text, int count) {
-    std::string all;
-    for (int index = 0; index < count; ++index) {
-        all += text;
-    }
-    return all;
 }
 
 TEST(HostileBinaryPropertyList, TheHandMadeFormIsReadWhenItIsHarmless) {

@@ -1,6 +1,7 @@
 #include "system/property_list/property_list.hpp"
 #include "tests/support/mac_tree.hpp"
 #include "tests/support/temporary_folder.hpp"
+#include "tests/system/property_list/samples.hpp"
 
 #include <gtest/gtest.h>
 #include <plist/plist.h>
@@ -18,7 +19,7 @@ namespace kelmar {
 namespace {
 
 using Text = std::optional<std::string>;
-constexpr const char* key = "CFBundleShortVersionString";
+using test::key;
 
 std::string xml(const std::string& body) {
     return "<?xml version=\"1.0\" encoding=\"UTF-8\"?>\n<plist version=\"1.0\">" + body +

@@ -1,4 +1,5 @@
 #include "system/property_list/xml.hpp"
+#include "tests/system/property_list/samples.hpp"
 
 #include <gtest/gtest.h>
 
@@ -7,13 +8,7 @@
 namespace kelmar {
 namespace {
 
-std::string repeated(std::string_view word, int times) {
-    std::string text;
-    for (int time = 0; time < times; ++time) {
-        text += word;
-    }
-    return text;
-}
+using test::repeated;
 
 TEST(XmlPropertyList, OfAnOrdinarySizeIsModest) {
     EXPECT_TRUE(isModestXmlPropertyList(""));
