@@ -1,13 +1,18 @@
 #include "admin/status_folder.hpp"
 
-#include "system/files/file_descriptor.hpp"
+#include "system/files/files.hpp"
 #include "system/text/uuid.hpp"
 
 #include <cerrno>
+#include <ctime>
 #include <filesystem>
+#include <optional>
+#include <vector>
 
 #include <fcntl.h>
+#include <sys/file.h>
 #include <sys/stat.h>
+#include <unistd.h>
 
 namespace kelmar {
 
@@ -15,6 +20,24 @@ namespace {
 
 constexpr std::string_view folderName = "/kelmar-uninstaller-";
 constexpr std::string_view fileName = "/status";
+
+/// No run takes so long: what tells a folder in use where the file system has no locks.
+constexpr std::time_t day = 24 * 60 * 60;
+
+FileDescriptor openFolder(const std::string& path) {
+    return FileDescriptor(::open(path.c_str(), O_RDONLY | O_DIRECTORY | O_NOFOLLOW | O_CLOEXEC));
+}
+
+bool lock(const FileDescriptor& folder) {
+    return folder.isOpen() && ::flock(folder.get(), LOCK_EX | LOCK_NB) == 0;
+}
+
+bool isOldAndMine(const FileDescriptor& folder) {
+    struct stat status {};
+
+    return folder.isOpen() && ::fstat(folder.get(), &status) == 0 && status.st_uid == ::getuid() &&
+           status.st_mtime < std::time(nullptr) - day;
+}
 
 } // namespace
 
@@ -26,6 +49,21 @@ bool StatusFolder::isFileBelow(const std::string& parent, std::string_view path)
     };
     return take(parent) && take(folderName) && path.ends_with(fileName) &&
            isUuid(path.substr(0, path.size() - fileName.size()));
+}
+
+void StatusFolder::sweep(const std::string& parent) {
+    for (const std::string& name : sortedNames(parent).value_or(std::vector<std::string>{})) {
+        const std::string path = parent + "/" + name;
+        const std::string file = path + std::string(fileName);
+        if (!isFileBelow(parent, file)) {
+            continue;
+        }
+        const FileDescriptor folder = openFolder(path);
+        if (isOldAndMine(folder) && lock(folder)) {
+            removeFile(file);
+            removeFolder(path);
+        }
+    }
 }
 
 StatusFolder::StatusFolder(const std::string& parent) {
@@ -46,6 +84,8 @@ StatusFolder::StatusFolder(const std::string& parent) {
         error_ = std::error_code(errno, std::generic_category());
         return;
     }
+    lock_ = openFolder(path_);
+    static_cast<void>(lock(lock_)); // nobody else has had the time to
     const FileDescriptor status(::open(
         file().c_str(), O_WRONLY | O_CREAT | O_EXCL | O_NOFOLLOW | O_CLOEXEC, S_IRUSR | S_IWUSR));
     if (status.isOpen()) {

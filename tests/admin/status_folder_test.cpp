@@ -3,6 +3,7 @@
 
 #include <gtest/gtest.h>
 
+#include <chrono>
 #include <filesystem>
 #include <fstream>
 #include <optional>
@@ -10,6 +11,7 @@
 #include <string>
 
 #include <sys/stat.h>
+#include <unistd.h>
 
 namespace kelmar {
 namespace {
@@ -81,6 +83,73 @@ TEST(StatusFolder, GoesAfterAnExceptionToo) {
     } catch (int) {
         EXPECT_TRUE(fs::is_empty(folder.path()));
     }
+}
+
+/// What killed runs, and others, left in a folder for temporary files.
+class Sweep : public testing::Test {
+protected:
+    static constexpr const char* name = "kelmar-uninstaller-0CD66D61-5F6E-4A3A-9A5B-3A0A5A3F6F0E";
+
+    [[nodiscard]] std::string make(const std::string& given = name, int hours = 25) const {
+        const std::string path = folder / given;
+        fs::create_directory(path);
+        std::ofstream(path + "/status") << "DOING /Applications/Kelmar.app\n";
+        fs::last_write_time(path, fs::file_time_type::clock::now() - std::chrono::hours(hours));
+        return path;
+    }
+
+    [[nodiscard]] bool takes(const std::string& path) const {
+        StatusFolder::sweep(folder.path());
+        return !fs::exists(fs::symlink_status(path));
+    }
+
+    test::TemporaryFolder folder;
+};
+
+TEST_F(Sweep, TakesWhatAKilledRunLeft) {
+    EXPECT_TRUE(takes(make()));
+}
+
+TEST_F(Sweep, LeavesWhatIsYoungerThanADay) {
+    EXPECT_FALSE(takes(make(name, 23)));
+}
+
+TEST_F(Sweep, LeavesOneThatIsInUseHoweverOld) {
+    const StatusFolder used(folder.path());
+    fs::last_write_time(used.path(), fs::file_time_type::clock::now() - std::chrono::hours(100));
+    EXPECT_FALSE(takes(used.path()));
+    EXPECT_TRUE(fs::exists(used.file()));
+}
+
+TEST_F(Sweep, LeavesWhatHasAnotherName) {
+    EXPECT_FALSE(takes(make("kelmar-uninstaller-")));
+    EXPECT_FALSE(takes(make("kelmar-uninstaller-mine")));
+    EXPECT_FALSE(takes(make(std::string(name) + "x")));
+    EXPECT_FALSE(takes(make("x" + std::string(name))));
+}
+
+TEST_F(Sweep, LeavesWhatIsSomebodyElses) {
+    const std::string path = make();
+    if (::chown(path.c_str(), 65534, 65534) != 0) {
+        GTEST_SKIP() << "only root can give a folder to somebody else";
+    }
+    fs::last_write_time(path, fs::file_time_type::clock::now() - std::chrono::hours(25));
+    EXPECT_FALSE(takes(path));
+}
+
+TEST_F(Sweep, LeavesOneThatHoldsMore) {
+    const std::string path = make();
+    std::ofstream(path + "/letter") << "mine";
+    fs::last_write_time(path, fs::file_time_type::clock::now() - std::chrono::hours(25));
+    EXPECT_FALSE(takes(path));
+    EXPECT_TRUE(fs::exists(path + "/letter"));
+}
+
+TEST_F(Sweep, FollowsNoLink) {
+    const std::string path = make("elsewhere");
+    fs::create_directory_symlink(path, folder / name);
+    EXPECT_FALSE(takes(folder / name));
+    EXPECT_TRUE(fs::exists(path + "/status"));
 }
 
 } // namespace
