@@ -1,5 +1,6 @@
 #include "app/uninstall_command.hpp"
 
+#include "app/interruption.hpp"
 #include "app/printing.hpp"
 #include "discovery/scanner.hpp"
 #include "engine/uninstaller.hpp"
@@ -8,6 +9,7 @@
 #include <set>
 #include <string>
 #include <variant>
+#include <vector>
 
 namespace kelmar {
 
@@ -16,6 +18,7 @@ namespace {
 constexpr std::int32_t removed = 0;
 constexpr std::int32_t itemsLeft = 1;
 constexpr std::int32_t cancelled = 3;
+constexpr std::int32_t signalBase = 128; // as shells report a program that a signal ended
 
 std::set<std::string> selection(const Inventory& inventory, bool deleteData) {
     std::set<std::string> selected;
@@ -51,35 +54,60 @@ private:
     std::map<Uninstaller::Stage, std::string> titles_;
 };
 
-std::int32_t report(const Uninstaller::Finished& outcome, const KelmarPaths& paths) {
-    if (outcome.failures.empty()) {
-        print("Kelmar has been removed.");
-        return removed;
+/// Prints how a run ended; its exit status.
+class Report {
+public:
+    explicit Report(const KelmarPaths& paths) : paths_(paths) {}
+
+    std::int32_t operator()(const Uninstaller::Finished& outcome) const {
+        if (outcome.failures.empty()) {
+            print("Kelmar has been removed.");
+            return removed;
+        }
+        list(outcome.failures);
+        return itemsLeft;
     }
-    print("Not removed:");
-    for (const Uninstaller::Failure& failure : outcome.failures) {
-        print(indent + paths.display(failure.path) + ": " + failure.reason);
+
+    std::int32_t operator()(const Uninstaller::Cancelled& /*outcome*/) const {
+        print("Cancelled at the administrator password prompt; nothing was removed.");
+        return cancelled;
     }
-    return itemsLeft;
-}
+
+    std::int32_t operator()(const Uninstaller::Interrupted& outcome) const {
+        if (!outcome.failures.empty()) {
+            list(outcome.failures);
+        }
+        print("Interrupted before it was done; run it again to remove what is left.");
+        return signalBase + Interruption::signal();
+    }
+
+private:
+    void list(const std::vector<Uninstaller::Failure>& failures) const {
+        print("Not removed:");
+        for (const Uninstaller::Failure& failure : failures) {
+            print(indent + paths_.display(failure.path) + ": " + failure.reason);
+        }
+    }
+
+    const KelmarPaths& paths_;
+};
 
 } // namespace
 
 std::int32_t uninstall(const KelmarPaths& paths, bool deleteData) {
     const Inventory inventory = Scanner::scan(paths);
     if (inventory.isEmpty()) {
+        Uninstaller::sweepTemporaryFolder(paths);
         print("Kelmar isn't on this Mac; nothing to remove.");
         return removed;
     }
     Uninstaller uninstaller(paths, inventory, selection(inventory, deleteData));
     const EventPrinter printer(uninstaller);
-    const Uninstaller::Outcome outcome = uninstaller.run(
-        [&printer](const Uninstaller::Event& event) { std::visit(printer, event); });
-    if (const auto* const finished = std::get_if<Uninstaller::Finished>(&outcome)) {
-        return report(*finished, paths);
-    }
-    print("Cancelled at the administrator password prompt; nothing was removed.");
-    return cancelled;
+    const Interruption interruption;
+    const Uninstaller::Outcome outcome =
+        uninstaller.run([&printer](const Uninstaller::Event& event) { std::visit(printer, event); },
+                        [] { return Interruption::signal() != 0; });
+    return std::visit(Report(paths), outcome);
 }
 
 } // namespace kelmar

@@ -99,6 +99,7 @@ void Uninstaller::handleStatusLine(std::string_view line) {
     }
     switch (parsed->keyword) {
     case StatusLine::Keyword::doing:
+        removing_ = true;
         doing("Removing " + paths.display(parsed->subject));
         break;
     case StatusLine::Keyword::ok:

@@ -66,7 +66,7 @@ void Uninstaller::quitKelmar() {
         return;
     }
     const std::vector<RunningApplication> running = runningApplications(appIdentity(paths));
-    if (running.empty()) {
+    if (running.empty() || ends()) {
         return;
     }
     std::vector<HeldProcess> held;
@@ -104,6 +104,9 @@ void Uninstaller::stopServices() {
         return;
     }
     for (const std::string& label : inventory.loadedServices) {
+        if (ends()) {
+            return;
+        }
         doing("Stopping " + label);
         const std::optional<std::string> plist = Launchctl::propertyList(label);
         if (const std::optional<Launchctl::Complaint> complaint = Launchctl::stop(label)) {
@@ -127,7 +130,7 @@ void Uninstaller::stopProcesses(const std::vector<std::string>& folders) {
         return;
     }
     const std::vector<HeldProcess> held = ownProcessesUnder(folders);
-    if (held.empty()) {
+    if (held.empty() || ends()) {
         return;
     }
     const std::vector<pid_t> mine = numbersOf(held);

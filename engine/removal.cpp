@@ -14,9 +14,10 @@
 namespace kelmar {
 
 void Uninstaller::remove(const std::string& path) {
-    if (!exists(path)) {
+    if (!exists(path) || ends()) {
         return;
     }
+    removing_ = true;
     doing("Removing " + paths.display(path));
     // A reason is one line, and rm(1) may write one for every file.
     constexpr std::size_t enough = 65536;
@@ -32,6 +33,10 @@ void Uninstaller::remove(const std::string& path) {
 }
 
 void Uninstaller::forgetReceipt(const std::string& identifier) {
+    if (ends()) {
+        return;
+    }
+    removing_ = true;
     if (const std::optional<std::string> complaint = Pkgutil::forget(identifier, paths.home)) {
         failures.push_back({"Install record " + identifier, *complaint});
     } else {
@@ -44,7 +49,8 @@ void Uninstaller::removeSettings() {
     const std::string preferences = paths.home + "/Library/Preferences/" + identifier + ".plist";
     const bool hasPreferences = std::find(inventory.settings.begin(), inventory.settings.end(),
                                           preferences) != inventory.settings.end();
-    if (!paths.testRoot && hasPreferences) {
+    if (!paths.testRoot && hasPreferences && !ends()) {
+        removing_ = true;
         // Else the system's preferences cache, which still knows them, would write the file anew.
         Preferences::deleteDomain(identifier);
     }
@@ -55,6 +61,10 @@ void Uninstaller::removeSettings() {
         // Each run deletes one item; several may bear the name, and a keychain that misbehaves has
         // a bound.
         constexpr int limit = 5;
+        if (ends()) {
+            return;
+        }
+        removing_ = true;
         doing("Removing the keychain item " + name);
         for (int round = 0; round < limit; ++round) {
             if (!Keychain::deleteItem(name)) {
@@ -82,6 +92,10 @@ void Uninstaller::removeIfEmpty(const std::string& path) {
             log(paths.display(path) + ": it still holds " + joined(kept, ", ") + ".");
             return;
         }
+        if (ends()) {
+            return;
+        }
+        removing_ = true;
         for (const std::string& name : *names) {
             removeFile(path + "/" + name);
         }
@@ -105,7 +119,7 @@ void Uninstaller::removeIfEmpty(const std::string& path) {
 void Uninstaller::resetPermissions() {
     const bool hasApp = std::any_of(inventory.installations.begin(), inventory.installations.end(),
                                     [](const Installation& one) { return one.app.has_value(); });
-    if (paths.testRoot || !hasApp) {
+    if (paths.testRoot || !hasApp || ends()) {
         return;
     }
     doing("Resetting Kelmar's privacy permissions");

@@ -1,3 +1,4 @@
+#include "admin/status_folder.hpp"
 #include "engine/uninstaller.hpp"
 #include "system/mac_tools/pkgutil.hpp"
 
@@ -69,17 +70,40 @@ bool Uninstaller::perform(Stage stage) {
     return true;
 }
 
-Uninstaller::Outcome Uninstaller::run(Emit callback) {
+bool Uninstaller::ends() {
+    ended_ = ended_ || shouldEnd_();
+    return ended_;
+}
+
+void Uninstaller::sweepTemporaryFolder(const KelmarPaths& paths) {
+    StatusFolder::sweep(paths.temporaryDirectory);
+}
+
+Uninstaller::Outcome Uninstaller::run(Emit callback, ShouldEnd shouldEnd) {
     emit = std::move(callback);
-    for (const TitledStage& titled : stages()) {
+    shouldEnd_ = std::move(shouldEnd);
+    sweepTemporaryFolder(paths);
+    const std::vector<TitledStage> all = stages();
+    for (const TitledStage& titled : all) {
         emit(StageStarted{titled.stage});
-        if (!perform(titled.stage)) {
-            restartStoppedServices();
-            return Cancelled{};
+        const bool cancelled = !perform(titled.stage);
+        const bool isLast = &titled == &all.back();
+        if (cancelled || ended_ || (!isLast && ends())) {
+            if (!removing_) {
+                restartStoppedServices();
+            }
+            // What ends the run may have ended the password prompt as well.
+            return ends() ? Outcome(Interrupted{verify()}) : Outcome(Cancelled{});
         }
         emit(StageFinished{titled.stage});
     }
-    return Finished{verify()};
+    // What ends the run may have ended a tool in the middle of the last removal.
+    const bool ending = ends();
+    std::vector<Failure> left = verify();
+    if (ending && !left.empty()) {
+        return Interrupted{std::move(left)};
+    }
+    return Finished{std::move(left)};
 }
 
 } // namespace kelmar

@@ -34,9 +34,11 @@ public:
     using Failure = Uninstall::Failure;
     using Finished = Uninstall::Finished;
     using Cancelled = Uninstall::Cancelled;
+    using Interrupted = Uninstall::Interrupted;
     using Outcome = Uninstall::Outcome;
     using TitledStage = Uninstall::TitledStage;
     using Emit = std::function<void(const Event&)>;
+    using ShouldEnd = std::function<bool()>;
 
     /// A service that was stopped, and the property list that starts it again.
     struct StoppedService {
@@ -75,7 +77,18 @@ public:
     /// The whole uninstall. `callback` is called during the run only, never twice at once: on this
     /// thread, or, while this thread waits for the administrator's script, on the thread that
     /// follows its progress.
-    Outcome run(Emit callback);
+    ///
+    /// `shouldEnd` is asked before each step. Once it answers true, no further step begins,
+    /// services that were stopped are started again if nothing has been removed yet, and the
+    /// outcome is `Interrupted`; that is an outcome only of a run that skipped a step or left
+    /// something.
+    Outcome run(
+        Emit callback, ShouldEnd shouldEnd = [] { return false; });
+
+    /// Removes the folders that killed runs left among this user's temporary files, see
+    /// `StatusFolder`. `run` begins with it; a front end calls it where nothing is there to run
+    /// for.
+    static void sweepTemporaryFolder(const KelmarPaths& paths);
 
     // Closing. What could not be done is logged, never a failure: verification finds what is left.
 
@@ -124,6 +137,8 @@ public:
 private:
     /// One stage of a run; false when it was cancelled.
     bool perform(Stage stage);
+    /// Whether the run ends before the next step; once true, it stays so.
+    bool ends();
     void closeKelmar();
     void cleanAccount();
     void deleteData();
@@ -133,6 +148,10 @@ private:
     void log(std::string text) const { emit(Log{std::move(text)}); }
 
     void handleStatusLine(std::string_view line);
+
+    ShouldEnd shouldEnd_ = [] { return false; };
+    bool ended_ = false;
+    bool removing_ = false; ///< a removal has begun: there is no way back
 };
 
 } // namespace kelmar

@@ -23,7 +23,7 @@ struct StageStarted {
     friend bool operator==(const StageStarted&, const StageStarted&) = default;
 };
 
-/// A stage has ended; not sent for one that was cancelled.
+/// A stage has ended; not sent for one that was cancelled or interrupted.
 struct StageFinished {
     Stage stage;
     friend bool operator==(const StageFinished&, const StageFinished&) = default;
@@ -62,7 +62,13 @@ struct Cancelled {
     friend bool operator==(const Cancelled&, const Cancelled&) = default;
 };
 
-using Outcome = std::variant<Finished, Cancelled>;
+/// The caller ended the run before it was done; what is left.
+struct Interrupted {
+    std::vector<Failure> failures;
+    friend bool operator==(const Interrupted&, const Interrupted&) = default;
+};
+
+using Outcome = std::variant<Finished, Cancelled, Interrupted>;
 
 /// A stage of a run and what it is called on screen.
 struct TitledStage {
