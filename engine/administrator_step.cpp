@@ -3,7 +3,9 @@
 #include "admin/status_folder.hpp"
 #include "admin/status_line.hpp"
 #include "admin/status_tail.hpp"
+#include "discovery/unreadable_folder.hpp"
 #include "engine/uninstaller.hpp"
+#include "system/files/files.hpp"
 #include "system/process/contract.hpp"
 #include "system/process/resources.hpp"
 #include "system/text/strings.hpp"
@@ -42,6 +44,24 @@ std::vector<DataFolder> Uninstaller::mySelectedData() const {
     return inventory.selected(selectedData, Scope::me);
 }
 
+void Uninstaller::logWhatNoPasswordHelps() const {
+    const AdministratorReasons reasons = inventory.administratorReasons(selectedData);
+    const std::string root = paths.dataRoot(Scope::allUsers);
+    if (!reasons.sharedData.empty() && isLink(root)) {
+        log(paths.display(root) + ": it is a link, and the administrator's part follows none. "
+                                  "The data there will stay.");
+    }
+    if (!reasons.ownFiles) {
+        return;
+    }
+    for (const std::string& path : inventory.mine()->paths()) {
+        if (const std::optional<std::string> folder = unreadableFolderOfMine(path)) {
+            log(paths.display(*folder) + ": it is yours, but you may not read it. "
+                                         "It counts as somebody else's and may stay.");
+        }
+    }
+}
+
 Uninstaller::AdministratorOutcome
 Uninstaller::runAsAdministrator(const std::vector<std::string>& arguments) {
     const std::optional<std::string> script = resourcePath("uninstall-as-admin.sh");
@@ -56,6 +76,7 @@ Uninstaller::runAsAdministrator(const std::vector<std::string>& arguments) {
     }
     doing(paths.testRoot ? "Running the administrator step"
                          : "Waiting for an administrator's password");
+    logWhatNoPasswordHelps();
 
     // The tail's last callback has returned before this function does, so `this` outlives them all.
     StatusTail tail(folder.file(), [this](const std::string& line) { handleStatusLine(line); });

@@ -147,6 +147,8 @@ private:
 
     void log(std::string text) const { emit(Log{std::move(text)}); }
 
+    /// What can be known to stay before anybody gives a password for it.
+    void logWhatNoPasswordHelps() const;
     void handleStatusLine(std::string_view line);
 
     ShouldEnd shouldEnd_ = [] { return false; };
