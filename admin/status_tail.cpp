@@ -6,6 +6,7 @@
 
 #include <algorithm>
 #include <chrono>
+#include <new>
 #include <string_view>
 #include <utility>
 
@@ -39,17 +40,28 @@ StatusTail::StatusTail(std::string file, OnLine onLine)
       onLine_(std::move(onLine)) {}
 
 void StatusTail::start() {
-    queue_.startTimer(period, [this] { read(); });
+    queue_.startTimer(period, [this] { soundly([this] { read(); }); });
 }
 
 void StatusTail::stop() {
     queue_.sync([this] {
         queue_.cancelTimer();
-        read();
-        if (!pending_.empty()) {
-            handOut(std::exchange(pending_, {}));
-        }
+        soundly([this] {
+            read();
+            if (!pending_.empty()) {
+                handOut(std::exchange(pending_, {}));
+            }
+        });
     });
+}
+
+void StatusTail::soundly(const std::function<void()>& job) {
+    try {
+        job();
+    } catch (const std::bad_alloc&) {
+        isSound_ = false;
+        pending_.clear();
+    }
 }
 
 void StatusTail::read() {

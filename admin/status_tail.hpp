@@ -34,10 +34,13 @@ public:
     [[nodiscard]] bool sawDone() const { return sawDone_; }
 
     /// Whether the file was such as the script writes it: no line longer than a mebibyte, no more
-    /// than a gibibyte in all. What comes after is not read. Final once `stop` has returned.
+    /// than a gibibyte in all, and memory for all of it. What comes after is not read. Final once
+    /// `stop` has returned.
     [[nodiscard]] bool isSound() const { return isSound_; }
 
 private:
+    /// Runs `job`; what memory ran out for is not read, and that is known.
+    void soundly(const std::function<void()>& job);
     void read();
     /// Hands out the lines that `bytes` ends, and leaves what follows them there.
     void takeLines(std::string& bytes);

@@ -2,6 +2,7 @@
 #include "engine/uninstaller.hpp"
 #include "system/mac_tools/pkgutil.hpp"
 
+#include <new>
 #include <utility>
 
 namespace kelmar {
@@ -71,7 +72,7 @@ bool Uninstaller::perform(Stage stage) {
 }
 
 bool Uninstaller::ends() {
-    ended_ = ended_ || shouldEnd_();
+    ended_ = ended_ || (shouldEnd_ && shouldEnd_());
     return ended_;
 }
 
@@ -80,8 +81,27 @@ void Uninstaller::sweepTemporaryFolder(const KelmarPaths& paths) {
 }
 
 Uninstaller::Outcome Uninstaller::run(Emit callback, ShouldEnd shouldEnd) {
-    emit = std::move(callback);
-    shouldEnd_ = std::move(shouldEnd);
+    const Failure shortage{"Kelmar Uninstaller", "memory ran out before it was done"};
+    // Made while there is memory for it.
+    Finished withoutMemory{{shortage}};
+    try {
+        emit = std::move(callback);
+        shouldEnd_ = std::move(shouldEnd);
+        return runStages();
+    } catch (const std::bad_alloc&) {
+        try {
+            if (!removing_) {
+                restartStoppedServices();
+            }
+            failures.push_back(shortage);
+            return Finished{verify()};
+        } catch (const std::bad_alloc&) {
+            return withoutMemory;
+        }
+    }
+}
+
+Uninstaller::Outcome Uninstaller::runStages() {
     sweepTemporaryFolder(paths);
     const std::vector<TitledStage> all = stages();
     for (const TitledStage& titled : all) {

@@ -82,8 +82,10 @@ public:
     /// services that were stopped are started again if nothing has been removed yet, and the
     /// outcome is `Interrupted`; that is an outcome only of a run that skipped a step or left
     /// something.
-    Outcome run(
-        Emit callback, ShouldEnd shouldEnd = [] { return false; });
+    ///
+    /// Where memory runs out, also inside the callback, the run ends there: `Finished`, with that
+    /// as a failure.
+    Outcome run(Emit callback, ShouldEnd shouldEnd = nullptr);
 
     /// Removes the folders that killed runs left among this user's temporary files, see
     /// `StatusFolder`. `run` begins with it; a front end calls it where nothing is there to run
@@ -135,6 +137,7 @@ public:
     AdministratorOutcome runAsAdministrator(const std::vector<std::string>& arguments);
 
 private:
+    Outcome runStages();
     /// One stage of a run; false when it was cancelled.
     bool perform(Stage stage);
     /// Whether the run ends before the next step; once true, it stays so.
@@ -151,7 +154,7 @@ private:
     void logWhatNoPasswordHelps() const;
     void handleStatusLine(std::string_view line);
 
-    ShouldEnd shouldEnd_ = [] { return false; };
+    ShouldEnd shouldEnd_;
     bool ended_ = false;
     bool removing_ = false; ///< a removal has begun: there is no way back
 };

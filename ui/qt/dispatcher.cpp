@@ -4,6 +4,7 @@
 
 #include <QCoreApplication>
 #include <QEvent>
+#include <system_error>
 #include <thread>
 #include <utility>
 
@@ -34,22 +35,32 @@ void QtDispatcher::timerEvent(QTimerEvent* /*event*/) {
     }
 }
 
+void QtDispatcher::onThread(const char* name, void (*prepare)(), Job job) {
+    try {
+        std::thread([name, prepare, job] {
+            nameThisThread(name);
+            prepare();
+            job();
+        }).detach();
+    } catch (const std::system_error&) {
+        // The system starts no thread. The window stands still while the job runs, but it runs.
+        toMain(std::move(job));
+    }
+}
+
 void QtDispatcher::userInitiated(Job job) {
-    std::thread([job = std::move(job)] {
-        nameThisThread("user-initiated");
-        job();
-    }).detach();
+    onThread(
+        "user-initiated", [] {}, std::move(job));
 }
 
 void QtDispatcher::utility(Job job) {
-    std::thread([job = std::move(job)] {
-        nameThisThread("utility");
+    const auto yieldToOthers = [] {
         // setpriority(2): on Linux the nice value is a thread's own, and its children inherit it.
         constexpr int nicer = 10;
         const auto self = static_cast<id_t>(::gettid());
         ::setpriority(PRIO_PROCESS, self, ::getpriority(PRIO_PROCESS, self) + nicer);
-        job();
-    }).detach();
+    };
+    onThread("utility", yieldToOthers, std::move(job));
 }
 
 } // namespace kelmar

@@ -24,6 +24,10 @@ public:
     void utility(Job job) override;
 
 private:
+    /// Runs `job` on a thread of its own, after `prepare`; on the main thread, later and without
+    /// `prepare`, where the system starts none.
+    void onThread(const char* name, void (*prepare)(), Job job);
+
     bool event(QEvent* event) override;
     void timerEvent(QTimerEvent* event) override;
 

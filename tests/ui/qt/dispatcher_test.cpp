@@ -1,3 +1,4 @@
+#include "tests/support/no_threads.hpp"
 #include "tests/ui/dispatcher_contract.hpp"
 #include "ui/qt/dispatcher.hpp"
 
@@ -58,6 +59,20 @@ TEST(Dispatcher, WhatMayTakeItsTimeYieldsToTheRest) {
         [&] { theirs = ::getpriority(PRIO_PROCESS, static_cast<id_t>(::gettid())); });
     EXPECT_TRUE(QTest::qWaitFor([&] { return theirs != -100; }));
     EXPECT_GT(theirs, mine);
+    EXPECT_EQ(::getpriority(PRIO_PROCESS, 0), mine);
+}
+
+TEST(Dispatcher, WithoutThreadsStillRunsEveryJob) {
+    QtDispatcher dispatcher;
+    const int mine = ::getpriority(PRIO_PROCESS, 0);
+    int ran = 0;
+    {
+        const test::NoThreads noThreads;
+        dispatcher.userInitiated([&] { ++ran; });
+        dispatcher.utility([&] { ++ran; });
+    }
+    EXPECT_EQ(ran, 0) << "later, as every job";
+    EXPECT_TRUE(QTest::qWaitFor([&] { return ran == 2; }));
     EXPECT_EQ(::getpriority(PRIO_PROCESS, 0), mine);
 }
 
