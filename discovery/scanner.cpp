@@ -114,12 +114,13 @@ std::vector<std::string> settings(const KelmarPaths& paths) {
     return all;
 }
 
-std::optional<DataRoot> dataRoot(Scope scope, const KelmarPaths& paths) {
+std::optional<DataRoot> dataRoot(Scope scope, const KelmarPaths& paths,
+                                 std::chrono::milliseconds within) {
     DataRoot root;
     root.scope = scope;
     root.path = paths.dataRoot(scope);
     const std::vector<std::string> names =
-        sortedNames(root.path).value_or(std::vector<std::string>{});
+        sortedNamesWithin(within, root.path).value_or(std::vector<std::string>{});
     for (const DataFolder::Known& known : DataFolder::known) {
         if (std::binary_search(names.begin(), names.end(), known.name)) {
             const std::string name(known.name);

@@ -3,6 +3,7 @@
 #include "discovery/inventory.hpp"
 #include "discovery/kelmar_paths.hpp"
 
+#include <chrono>
 #include <cstdint>
 #include <optional>
 #include <string>
@@ -25,12 +26,18 @@ Installation installation(Scope scope, const KelmarPaths& paths);
 /// The paths of the account's settings, caches, logs and temporary files.
 std::vector<std::string> settings(const KelmarPaths& paths);
 
-/// The scope's data root; absent without any of the known folders in it: a folder of that name is
-/// then not the product's.
-std::optional<DataRoot> dataRoot(Scope scope, const KelmarPaths& paths);
+/// How long a data root may take to say what is in it. It may lie on another disk than everything
+/// else, which may never answer.
+constexpr std::chrono::minutes patience{2};
+
+/// The scope's data root; absent without any of the known folders in it (a folder of that name is
+/// then not the product's), and when it does not answer `within` that time.
+std::optional<DataRoot> dataRoot(Scope scope, const KelmarPaths& paths,
+                                 std::chrono::milliseconds within = patience);
 
 /// The bytes that `path` takes on disk, in whole kibibytes, as du(1) counts them; absent when it
-/// can't be measured. Can take minutes. 2^53 KiB or more is a broken contract.
+/// can't be measured, or not within two hours. Can take minutes. 2^53 KiB or more is a broken
+/// contract.
 std::optional<std::int64_t> size(const std::string& path);
 
 /// Whether `path` and everything beneath it belong to the real user of this process, links not

@@ -6,6 +6,11 @@
 
 #include <algorithm>
 #include <cerrno>
+#include <exception>
+#include <future>
+#include <memory>
+#include <new>
+#include <thread>
 #include <utility>
 
 #include <fcntl.h>
@@ -34,6 +39,24 @@ std::optional<std::vector<std::string>> sortedNames(const std::string& path) {
     }
     std::sort(names.begin(), names.end());
     return names;
+}
+
+std::optional<std::vector<std::string>> sortedNamesWithin(std::chrono::milliseconds patience,
+                                                          const std::string& path) {
+    const auto names = std::make_shared<std::promise<std::optional<std::vector<std::string>>>>();
+    std::future<std::optional<std::vector<std::string>>> answer = names->get_future();
+    try {
+        std::thread([names, path] {
+            try {
+                names->set_value(sortedNames(path));
+            } catch (const std::bad_alloc&) {
+                names->set_exception(std::current_exception());
+            }
+        }).detach();
+    } catch (const std::system_error&) {
+        return sortedNames(path); // the system starts no thread
+    }
+    return answer.wait_for(patience) == std::future_status::ready ? answer.get() : std::nullopt;
 }
 
 std::optional<std::string> readFile(const std::string& path, std::size_t limit) {

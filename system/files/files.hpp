@@ -1,5 +1,6 @@
 #pragma once
 
+#include <chrono>
 #include <cstddef>
 #include <optional>
 #include <string>
@@ -17,6 +18,11 @@ bool exists(const std::string& path);
 /// sorted by bytes (for UTF-8 that is code-point order). Absent when the folder cannot be listed to
 /// its end: missing, not a folder, unreadable. A link to a folder is listed as that folder.
 std::optional<std::vector<std::string>> sortedNames(const std::string& path);
+
+/// The same, absent also when it takes longer than `patience`, as on a disk that never answers. The
+/// thread that waits for it is then left behind.
+std::optional<std::vector<std::string>> sortedNamesWithin(std::chrono::milliseconds patience,
+                                                          const std::string& path);
 
 /// The bytes of the regular file at `path` (links followed), absent when there is none, when it
 /// cannot be read, or when it holds more than `limit` bytes. Never waits: a pipe or a device in the

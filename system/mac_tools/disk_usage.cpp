@@ -7,9 +7,11 @@
 
 namespace kelmar::DiskUsage {
 
-std::optional<std::int64_t> kibibytes(const std::string& path) {
+std::optional<std::int64_t> kibibytes(const std::string& path, std::chrono::milliseconds within) {
     // du exits with an error whenever it complained, also after a total that counts.
-    return kibibytesIn(Shell::run("/usr/bin/du", {"-sk", path}).output);
+    const std::optional<Shell::Result> result =
+        Shell::runWithin(within, "/usr/bin/du", {"-sk", path});
+    return result ? kibibytesIn(result->output) : std::nullopt;
 }
 
 std::optional<std::int64_t> kibibytesIn(std::string_view output) {

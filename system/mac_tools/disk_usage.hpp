@@ -1,5 +1,6 @@
 #pragma once
 
+#include <chrono>
 #include <cstdint>
 #include <optional>
 #include <string>
@@ -8,10 +9,14 @@
 /// Space on disk, through du(1).
 namespace kelmar::DiskUsage {
 
+/// Longer than du(1) takes for any folder on a disk that answers.
+constexpr std::chrono::hours patience{2};
+
 /// The kibibytes that `path` and everything beneath it take on disk; absent when du(1) printed no
-/// total. Runs /usr/bin/du and blocks until it has ended, for minutes on a large folder. May be
-/// called from any thread.
-std::optional<std::int64_t> kibibytes(const std::string& path);
+/// total, or none `within` that time. Runs /usr/bin/du and blocks until it has ended, for minutes
+/// on a large folder. May be called from any thread.
+std::optional<std::int64_t> kibibytes(const std::string& path,
+                                      std::chrono::milliseconds within = patience);
 
 /// The kibibytes that `output`, printed by `du -sk`, reports: its first field, when that is a whole
 /// decimal number. Absent otherwise, as when du printed only an error.

@@ -4,15 +4,21 @@
 #include "system/process/child_process.hpp"
 #include "system/text/utf8.hpp"
 
+#include <algorithm>
 #include <array>
 #include <cerrno>
+#include <csignal>
 #include <system_error>
+#include <thread>
 
 #include <poll.h>
+#include <sys/wait.h>
 
 namespace kelmar::Shell {
 
 namespace {
+
+using Clock = std::chrono::steady_clock;
 
 std::string causeOf(int error) {
     return std::generic_category().message(error);
@@ -43,6 +49,35 @@ void drainBoth(StartedChild& child, std::string& output, std::string& error) {
     }
 }
 
+/// Whether everything was read before `deadline`.
+bool drainUntil(Clock::time_point deadline, const FileDescriptor& output, std::string& bytes) {
+    constexpr std::size_t portion = 65536;
+    while (Clock::now() < deadline) {
+        pollfd state{output.get(), POLLIN, 0};
+        const auto left = std::chrono::ceil<std::chrono::milliseconds>(deadline - Clock::now());
+        constexpr std::chrono::milliseconds longest =
+            std::chrono::hours(24); // poll(2) takes an int
+        const int ready = ::poll(&state, 1, static_cast<int>(std::min(left, longest).count()));
+        if (ready > 0 && readOnce(output.get(), bytes, portion) <= 0) {
+            return true;
+        }
+        if (ready < 0 && errno != EINTR) {
+            return false;
+        }
+    }
+    return false;
+}
+
+/// Ends `process` and lets go of its number, if it does end.
+void abandon(pid_t process) {
+    constexpr std::chrono::milliseconds pause{10};
+    constexpr int looks = 100;
+    ::kill(process, SIGKILL);
+    for (int look = 0; look < looks && ::waitpid(process, nullptr, WNOHANG) == 0; ++look) {
+        std::this_thread::sleep_for(pause);
+    }
+}
+
 } // namespace
 
 Result run(const std::string& executable, const std::vector<std::string>& arguments,
@@ -58,6 +93,21 @@ Result run(const std::string& executable, const std::vector<std::string>& argume
     child.output = FileDescriptor();
     const std::int32_t status = waitForChild(child.process);
     return {status, decodeUtf8(bytes)};
+}
+
+std::optional<Result> runWithin(std::chrono::milliseconds patience, const std::string& executable,
+                                const std::vector<std::string>& arguments) {
+    const StartedChild child = startChild(executable, arguments);
+    if (child.error != 0) {
+        return Result{-1, causeOf(child.error)};
+    }
+    std::string bytes;
+    if (!drainUntil(Clock::now() + patience, child.output, bytes)) {
+        abandon(child.process);
+        return std::nullopt;
+    }
+    const std::int32_t status = waitForChild(child.process);
+    return Result{status, decodeUtf8(bytes)};
 }
 
 SeparateResult runSeparately(const std::string& executable,

@@ -1,7 +1,9 @@
 #pragma once
 
+#include <chrono>
 #include <cstddef>
 #include <cstdint>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -39,8 +41,14 @@ struct SeparateResult {
 Result run(const std::string& executable, const std::vector<std::string>& arguments,
            std::size_t limit = std::string::npos);
 
-/// The same, keeping standard output and standard error apart: only what the child's own side has
-/// in hand is on its standard output, whoever else may write to standard error.
+/// The same as `run` for a program that may be given up: absent when it has not closed its output
+/// within `patience`. It is killed then (SIGKILL), and left alone if even that does not end it, as
+/// when it waits for a disk that never answers.
+std::optional<Result> runWithin(std::chrono::milliseconds patience, const std::string& executable,
+                                const std::vector<std::string>& arguments);
+
+/// The same as `run`, keeping standard output and standard error apart: only what the child's own
+/// side has in hand is on its standard output, whoever else may write to standard error.
 SeparateResult runSeparately(const std::string& executable,
                              const std::vector<std::string>& arguments);
 

@@ -4,6 +4,8 @@
 
 #include <gtest/gtest.h>
 
+#include <cerrno>
+#include <chrono>
 #include <csignal>
 #include <cstdint>
 #include <cstdlib>
@@ -210,6 +212,28 @@ TEST(Shell, WorksWhenThisProcessHasNoStandardStreams) {
     int status = -1;
     ASSERT_EQ(::waitpid(child, &status, 0), child);
     EXPECT_EQ(status, 0);
+}
+
+TEST(ShellWithin, ReturnsWhatAProgramThatEndsInTimeWrote) {
+    EXPECT_EQ(Shell::runWithin(std::chrono::hours(1), "/bin/sh", {"-c", "echo whole; exit 7"}),
+              (Shell::Result{7, "whole\n"}));
+    EXPECT_EQ(Shell::runWithin(std::chrono::hours(1), "/no/such/program", {}),
+              (Shell::Result{-1, "No such file or directory"}));
+}
+
+TEST(ShellWithin, ReadsMoreThanAPipeHolds) {
+    const auto result =
+        Shell::runWithin(std::chrono::hours(1), "/bin/sh", {"-c", "head -c 1000000 /dev/zero"});
+    ASSERT_TRUE(result);
+    EXPECT_EQ(result->output.size(), 1'000'000U);
+}
+
+TEST(ShellWithin, EndsAProgramThatTakesLonger) {
+    EXPECT_EQ(Shell::runWithin(std::chrono::milliseconds(50), "/bin/sh",
+                               {"-c", "trap '' TERM; echo begun; exec sleep 1000"}),
+              std::nullopt);
+    EXPECT_EQ(::waitpid(-1, nullptr, WNOHANG), -1) << "no child is left";
+    EXPECT_EQ(errno, ECHILD);
 }
 
 } // namespace
