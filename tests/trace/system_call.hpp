@@ -15,9 +15,10 @@ using ThreadPath = std::vector<int>;
 /// A system call of a traced run, at its entry.
 struct SystemCall {
     ThreadPath thread;
-    std::size_t index = 0;  ///< which of its thread's, from 1
-    long number = 0;        ///< SYS_openat, SYS_write...; see syscall(2)
-    std::string executable; ///< the path of what the thread runs
+    std::size_t index = 0;      ///< which of its thread's, from 1
+    long number = 0;            ///< SYS_openat, SYS_write...; see syscall(2)
+    std::string executable;     ///< the path of what the thread runs
+    std::size_t occurrence = 0; ///< which of its thread's with this number, from 1
 
     bool operator==(const SystemCall&) const = default;
     auto operator<=>(const SystemCall&) const = default;

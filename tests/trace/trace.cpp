@@ -145,7 +145,7 @@ Recording record(const Program& program, Follow follow) {
 Struck strike(const Program& program, Follow follow, const SystemCall& recorded, Verdict verdict) {
     Struck struck;
     const auto judge = [&](const SystemCall& call) {
-        const bool same = call.index == recorded.index && call.number == recorded.number;
+        const bool same = call.number == recorded.number && call.occurrence == recorded.occurrence;
         struck.came = struck.came || same;
         return same ? verdict : Verdict{};
     };

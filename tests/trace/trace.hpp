@@ -60,10 +60,11 @@ struct Struck {
     ProgramEnd end;
 };
 
-/// Runs `program` again and lets `verdict` fall on the call that is `recorded`: the same thread's,
-/// with the same index and number. Only that thread is stopped at system calls, the others run
-/// freely, which takes a fraction of the time. Who waits for others, such as a thread that looks
-/// around until something has happened, may make fewer calls this time; then it does not fall.
+/// Runs `program` again and lets `verdict` fall on the call that is `recorded`: of the same
+/// thread's calls with its number the same one, however many others come in between. Only that
+/// thread is stopped at system calls, the others run freely, which takes a fraction of the time.
+/// Who waits for others, such as a thread that looks around until something has happened, may make
+/// fewer calls this time; then it does not fall.
 Struck strike(const Program& program, Follow follow, const SystemCall& recorded, Verdict verdict);
 
 } // namespace kelmar::test

@@ -217,7 +217,7 @@ TEST_F(Trace, StrikesOneThreadsCallAndNoOthers) {
     EXPECT_TRUE(struck.came);
     EXPECT_EQ(struck.end.output, "made\nNo space left on device\n");
     SystemCall never = made[1];
-    never.index = 1000;
+    never.occurrence = 1000;
     EXPECT_FALSE(test::strike(program, Follow::processes, never, full).came);
 }
 

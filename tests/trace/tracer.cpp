@@ -145,8 +145,9 @@ void Tracer::atSystemCall(pid_t thread) {
     }
     if (info.op == PTRACE_SYSCALL_INFO_ENTRY) {
         Thread& caller = threads_.at(thread);
-        const Verdict verdict = judge_(
-            {caller.path, ++caller.calls, static_cast<long>(info.entry.nr), caller.executable});
+        const long number = static_cast<long>(info.entry.nr);
+        const Verdict verdict = judge_({caller.path, ++caller.calls, number, caller.executable,
+                                        ++caller.callsByNumber[number]});
         if (verdict.kind == Verdict::Kind::kill) {
             killAll();
             return;

@@ -32,6 +32,7 @@ private:
         ThreadPath path;
         std::string executable;
         std::size_t calls = 0;
+        std::map<long, std::size_t> callsByNumber;
         int made = 0; ///< threads and processes
     };
 
