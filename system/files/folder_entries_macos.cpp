@@ -1,8 +1,8 @@
 #include "system/files/attribute_records_macos.hpp"
+#include "system/files/folder_batches_macos.hpp"
 #include "system/files/folder_entries_portable.hpp"
 
 #include <array>
-#include <cerrno>
 #include <cstddef>
 
 #include <sys/attr.h>
@@ -61,25 +61,15 @@ FolderReading visitRecords(int folder, std::string_view bytes, int count,
 FolderReading readFolder(int descriptor, const std::function<bool(const FolderEntry&)>& visit) {
     // NOLINTNEXTLINE(*-member-init): filled by the system before it is read
     alignas(std::uint64_t) std::array<char, bufferSize> buffer;
-    for (bool first = true;; first = false) {
-        attrlist list = wanted();
-        const int count = ::getattrlistbulk(descriptor, &list, buffer.data(), buffer.size(), 0);
-        if (count < 0 && errno == EINTR) {
-            continue;
-        }
-        if (count < 0) {
-            // A file system without it says so at once; later, an error is one.
-            return first ? readFolderPortably(descriptor, visit) : FolderReading::failed;
-        }
-        if (count == 0) {
-            return FolderReading::complete;
-        }
-        const FolderReading reading =
-            visitRecords(descriptor, {buffer.data(), buffer.size()}, count, visit);
-        if (reading != FolderReading::complete) {
-            return reading;
-        }
-    }
+    return readInBatches(
+        {[&] {
+             attrlist list = wanted();
+             return ::getattrlistbulk(descriptor, &list, buffer.data(), buffer.size(), 0);
+         },
+         [&](int count) {
+             return visitRecords(descriptor, {buffer.data(), buffer.size()}, count, visit);
+         },
+         [&] { return readFolderPortably(descriptor, visit); }});
 }
 
 } // namespace kelmar
