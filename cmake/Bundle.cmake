@@ -36,7 +36,7 @@ add_custom_command(
   DEPENDS ${packaging}/make-icon ${picture}
   VERBATIM)
 
-target_link_options(kelmar-uninstaller PRIVATE -Wl,-dead_strip -Wl,-x)
+target_link_options(kelmar-uninstaller PRIVATE -Wl,-dead_strip -Wl,-x -Wl,-headerpad,0x1000)
 set(bundle ${PROJECT_BINARY_DIR}/Kelmar\ Uninstaller.app)
 add_custom_target(
   bundle ALL

@@ -38,8 +38,9 @@ foreach(language CXX OBJCXX)
       "-fno-sanitize=undefined -ffile-prefix-map=${root}=. -isystem ${CMAKE_CURRENT_LIST_DIR}/declarations")
 endforeach()
 
-# "-s": no symbols, which also keeps paths of this machine out.
-set(CMAKE_EXE_LINKER_FLAGS_INIT "-s -Wl,-dead_strip")
+# "-s": no symbols, which also keeps paths of this machine out. The pad is room for the load command that a signer
+# adds; without it there is room only by accident.
+set(CMAKE_EXE_LINKER_FLAGS_INIT "-s -Wl,-dead_strip -Wl,-headerpad,0x1000")
 
 set(CMAKE_FIND_ROOT_PATH_MODE_PROGRAM NEVER)
 set(CMAKE_FIND_ROOT_PATH_MODE_LIBRARY ONLY)

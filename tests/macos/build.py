@@ -8,6 +8,7 @@ import subprocess
 
 PROJECT = pathlib.Path(__file__).resolve().parents[2]
 NAME = "Kelmar Uninstaller"
+IDENTIFIER = "com.kelmar.uninstaller"
 MINIMUM = "12.0"
 
 

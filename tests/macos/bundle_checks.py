@@ -5,6 +5,7 @@ import subprocess
 import archive_checks
 import executable_checks
 import resource_checks
+import seal_checks
 from build import MINIMUM
 
 CHECKS = {
@@ -13,7 +14,9 @@ CHECKS = {
     f"for macOS {MINIMUM} in each": executable_checks.minimum_version,
     "exactly the system's libraries": executable_checks.libraries,
     "no search path for libraries": executable_checks.search_paths,
-    "the signature of the arm64 executable, page by page": executable_checks.signature,
+    f"room for load commands, {executable_checks.LEAST_ROOM} bytes at least": executable_checks.room_for_commands,
+    "the signature of each executable, byte by byte": seal_checks.signature,
+    "every file in the list of sealed ones": seal_checks.sealed_files,
     "what the runtime of Objective-C reads": executable_checks.classes,
     "no inner names, no paths of this machine": executable_checks.stripped,
     "the administrator's script, byte by byte": resource_checks.script,

@@ -4,12 +4,14 @@ import os
 import struct
 
 import executable_checks as checks
+import mach_o
+import seal_checks
 from build import PROJECT
 from executable_edit import change_slice, command_at, remake, run, unused_place
 from mutation import mutation
 
 
-@mutation(checks.both_architectures, checks.signature)
+@mutation(checks.both_architectures)
 def one_architecture_missing(build):
     thin = build.folder / "thin"
     run("llvm-lipo", "-thin", "x86_64", str(build.executable), "-output", str(thin))
@@ -17,7 +19,7 @@ def one_architecture_missing(build):
     thin.unlink()
 
 
-@mutation(checks.both_architectures, checks.minimum_version, checks.libraries, checks.classes)
+@mutation(checks.both_architectures, checks.minimum_version, checks.libraries, checks.classes, seal_checks.signature)
 def one_architecture_too_many(build):
     # i386, as the third in the list: a header, and nothing that it does.
     data = bytearray(build.executable.read_bytes())
@@ -28,17 +30,17 @@ def one_architecture_too_many(build):
     build.executable.write_bytes(data)
 
 
-@mutation(checks.minimum_version)
+@mutation(checks.minimum_version, seal_checks.signature)
 def an_older_system_promised(build):
     change_slice(build, "x86_64", lambda data: struct.pack_into("<I", data, command_at(data, 0x32) + 12, 11 << 16))
 
 
-@mutation(checks.minimum_version, checks.signature)
+@mutation(checks.minimum_version, seal_checks.signature)
 def a_newer_interface_claimed(build):
     change_slice(build, "arm64", lambda data: struct.pack_into("<I", data, command_at(data, 0x32) + 16, 26 << 16))
 
 
-@mutation(checks.libraries)
+@mutation(checks.libraries, seal_checks.signature)
 def another_library(build):
     def change(data):
         place = data.index(b"/usr/lib/libobjc.A.dylib")
@@ -47,7 +49,7 @@ def another_library(build):
     change_slice(build, "x86_64", change)
 
 
-@mutation(checks.libraries)
+@mutation(checks.libraries, seal_checks.signature)
 def a_library_more(build):
     def change(architecture, part):
         if architecture == "x86_64":
@@ -64,7 +66,19 @@ def a_library_more(build):
     remake(build, change)
 
 
-@mutation(checks.search_paths)
+@mutation(checks.room_for_commands, seal_checks.signature)
+def no_room_for_a_load_command(build):
+    # A command without a meaning to dyld, LC_LINKER_OPTION, takes all but 16 bytes of what is free.
+    def change(data):
+        count, size = struct.unpack_from("<II", data, 16)
+        more = mach_o.room_for_commands(bytes(data)) - 16
+        struct.pack_into("<II", data, 16, count + 1, size + more)
+        struct.pack_into("<3I", data, 32 + size, 0x2D, more, 0)
+
+    change_slice(build, "x86_64", change)
+
+
+@mutation(checks.search_paths, seal_checks.signature)
 def a_search_path(build):
     def change(architecture, part):
         if architecture == "x86_64":
@@ -73,7 +87,7 @@ def a_search_path(build):
     remake(build, change)
 
 
-@mutation(checks.classes)
+@mutation(checks.classes, seal_checks.signature)
 def classes_that_are_not_announced(build):
     def change(data):
         place = data.index(b"__objc_imageinfo")
@@ -82,7 +96,7 @@ def classes_that_are_not_announced(build):
     change_slice(build, "x86_64", change)
 
 
-@mutation(checks.stripped)
+@mutation(checks.stripped, seal_checks.signature)
 def inner_names(build):
     def change(data):
         place = unused_place(data)
@@ -92,7 +106,7 @@ def inner_names(build):
     change_slice(build, "x86_64", change)
 
 
-@mutation(checks.stripped)
+@mutation(checks.stripped, seal_checks.signature)
 def a_path_of_this_machine(build):
     def change(data):
         path = os.fsencode(PROJECT / "app")

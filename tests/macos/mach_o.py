@@ -1,6 +1,5 @@
-"""Reads of a Mach-O executable what LLVM's tools don't: its code signature."""
+"""Reads of a Mach-O executable what LLVM's tools don't say: <mach-o/fat.h>, <mach-o/loader.h>."""
 
-import hashlib
 import struct
 
 FAT_MAGIC = 0xCAFEBABE
@@ -9,15 +8,6 @@ MAGIC_64 = b"\xcf\xfa\xed\xfe"
 LC_SEGMENT_64 = 0x19
 LC_CODE_SIGNATURE = 0x1D
 
-# The layout is that of <kern/cs_blobs.h>; all numbers of a signature are big-endian.
-SIGNATURE_MAGIC = 0xFADE0CC0
-DIRECTORY_MAGIC = 0xFADE0C02
-DIRECTORY_SLOT = 0
-AD_HOC = 0x2
-HARDENED = 0x10000
-HASH_SHA256 = 2
-VERSION_WITH_EXECUTABLE_SEGMENT = 0x20400
-MAIN_BINARY = 1
 
 
 def slices(data):
@@ -60,48 +50,26 @@ def file_range_of(executable, name):
     raise ValueError(f"no segment {name.decode()}")
 
 
-def signature_findings(executable):
-    """What is wrong with the ad-hoc signature of an executable of one architecture."""
-    commands = [data for command, data in load_commands(executable) if command == LC_CODE_SIGNATURE]
-    if len(commands) != 1:
-        return ["there is no signature"]
-    offset, size = struct.unpack_from("<II", commands[0], 8)
-    if offset + size != len(executable):
-        return ["the signature is not the end of the executable"]
-    magic, length, count = struct.unpack_from(">III", executable, offset)
-    if magic != SIGNATURE_MAGIC or length > size:
-        return ["the signature is not one"]
-    for index in range(count):
-        slot, place = struct.unpack_from(">II", executable, offset + 12 + 8 * index)
-        if slot == DIRECTORY_SLOT:
-            return directory_findings(executable, offset, offset + place)
-    return ["the signature has no code directory"]
+def room_for_commands(executable):
+    """How many bytes are free between the last load command and the first section."""
+    (size,) = struct.unpack_from("<I", executable, 20)
+    offsets = []
+    for command, data in load_commands(executable):
+        if command == LC_SEGMENT_64:
+            offsets += [struct.unpack_from("<I", data, place + 48)[0] for place in range(72, len(data), 80)]
+    return min(offset for offset in offsets if offset) - 32 - size
 
 
-def directory_findings(executable, signature, start):
-    """What is wrong with the code directory at `start`, whose pages end where the signature begins."""
-    fields = struct.unpack_from(">9I4BI", executable, start)
-    magic, _, version, flags, hashes, _, _, count, limit, hash_size, hash_kind, _, page_bits, _ = fields
-    if magic != DIRECTORY_MAGIC or version < VERSION_WITH_EXECUTABLE_SEGMENT:
-        return ["the code directory is not one, or too old"]
-    findings = []
-    if not flags & AD_HOC:
-        findings.append("the signature is not ad hoc")
-    if flags & HARDENED:
-        findings.append("the hardened runtime is on, and nothing here allows the password prompt under it")
-    if (hash_kind, hash_size) != (HASH_SHA256, 32):
-        return findings + ["the pages' hashes are not SHA-256"]
-    if limit != signature:
-        findings.append("code ahead of the signature is not covered")
-    page = 1 << page_bits
-    if count != (limit + page - 1) // page:
-        return findings + ["the number of pages is wrong"]
+def beside_the_slices(data):
+    """What is in a universal executable and belongs to none of the slices: they stand in order, with zeros between."""
+    _, count = struct.unpack_from(">II", data)
+    end = 8 + 20 * count
     for index in range(count):
-        digest = hashlib.sha256(executable[index * page : min((index + 1) * page, limit)]).digest()
-        place = start + hashes + 32 * index
-        if executable[place : place + 32] != digest:
-            findings.append(f"page {index} is not what was signed")
-    segment, segment_size, segment_flags = struct.unpack_from(">QQQ", executable, start + 64)
-    if (segment, segment_size) != file_range_of(executable, b"__TEXT") or segment_flags != MAIN_BINARY:
-        findings.append("the executable segment is another one")
-    return findings
+        _, _, offset, size, alignment = struct.unpack_from(">5I", data, 8 + 20 * index)
+        if offset != end + -end % (1 << alignment):
+            yield f"slice {index} is not where the one before ends"
+        elif any(data[end:offset]):
+            yield f"something is ahead of slice {index}"
+        end = offset + size
+    if end != len(data):
+        yield "something is behind the last slice"

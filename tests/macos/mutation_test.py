@@ -63,6 +63,9 @@ def main():
         good = caught(build, wanted, mutate, packed_anew)
         print(f"{'ok' if good else 'FAILED':8}{name}")
         failed = failed or not good
+    for place in signature_mutations.unnoticed_bytes(build):
+        print(f"FAILED  a changed byte goes unnoticed: {place}")
+        failed = True
     never = set(bundle_checks.CHECKS.values()) - set().union(*(wanted for _, wanted, _, _ in MUTATIONS))
     if never:
         print(f"FAILED  nothing makes these fail: {names(never)}")

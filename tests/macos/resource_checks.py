@@ -5,7 +5,7 @@ import plistlib
 import re
 
 import icon
-from build import MINIMUM, NAME, PROJECT, legacy_identifier, output_of, tree, version
+from build import IDENTIFIER, MINIMUM, NAME, PROJECT, legacy_identifier, output_of, tree, version
 
 MOST_BYTES = 4 * 1024 * 1024
 
@@ -20,6 +20,8 @@ CONTENTS = {
     "Contents/Resources": 0o755,
     "Contents/Resources/kelmar-uninstaller.icns": 0o644,
     "Contents/Resources/uninstall-as-admin.sh": 0o755,
+    "Contents/_CodeSignature": 0o755,
+    "Contents/_CodeSignature/CodeResources": 0o644,
 }
 
 
@@ -30,7 +32,7 @@ def information():
         "CFBundleDisplayName": NAME,
         "CFBundleExecutable": NAME,
         "CFBundleIconFile": "kelmar-uninstaller",
-        "CFBundleIdentifier": "com.kelmar.uninstaller",
+        "CFBundleIdentifier": IDENTIFIER,
         "CFBundleInfoDictionaryVersion": "6.0",
         "CFBundleName": NAME,
         "CFBundlePackageType": "APPL",

@@ -4,6 +4,7 @@ import plistlib
 import struct
 
 import resource_checks as checks
+import seal_checks
 from build import PROJECT, legacy_identifier
 from mutation import mutation, replace
 
@@ -15,7 +16,7 @@ def edit_information(build, edit):
     path.write_bytes(plistlib.dumps(values))
 
 
-@mutation(checks.what_is_in_it)
+@mutation(checks.what_is_in_it, seal_checks.sealed_files)
 def a_file_that_does_not_belong(build):
     (build.contents / "Resources/.DS_Store").write_bytes(b"")
 
@@ -42,33 +43,33 @@ def a_link_instead_of_a_file(build):
     script.symlink_to(PROJECT / "admin/uninstall-as-admin.sh")
 
 
-@mutation(checks.script)
+@mutation(checks.script, seal_checks.sealed_files)
 def a_script_with_a_line_more(build):
     with open(build.contents / "Resources/uninstall-as-admin.sh", "a", encoding="ascii") as script:
         script.write("\n")
 
 
-@mutation(checks.information_list)
+@mutation(checks.information_list, seal_checks.signature)
 def a_list_that_ends_early(build):
     replace(build.contents / "Info.plist", b"</dict>", b"")
 
 
-@mutation(checks.information_list)
+@mutation(checks.information_list, seal_checks.signature)
 def another_version(build):
     edit_information(build, lambda values: values.update(CFBundleVersion="0.9"))
 
 
-@mutation(checks.information_list)
+@mutation(checks.information_list, seal_checks.signature)
 def a_key_missing(build):
     edit_information(build, lambda values: values.pop("NSAppleEventsUsageDescription"))
 
 
-@mutation(checks.information_list)
+@mutation(checks.information_list, seal_checks.signature)
 def a_key_more(build):
     edit_information(build, lambda values: values.update(LSUIElement=True))
 
 
-@mutation(checks.information_list)
+@mutation(checks.information_list, seal_checks.signature)
 def an_identifier_below_that_of_the_product(build):
     edit_information(build, lambda values: values.update(CFBundleIdentifier=legacy_identifier() + ".x"))
 
@@ -95,7 +96,7 @@ def another_type(build):
     replace(build.contents / "PkgInfo", b"APPL", b"BNDL")
 
 
-@mutation(checks.picture)
+@mutation(checks.picture, seal_checks.sealed_files)
 def a_picture_of_another_size(build):
     # The width of the largest one, which is the last.
     path = build.contents / "Resources/kelmar-uninstaller.icns"
@@ -104,7 +105,7 @@ def a_picture_of_another_size(build):
     path.write_bytes(data[:place] + struct.pack(">I", 1000) + data[place + 4 :])
 
 
-@mutation(checks.picture)
+@mutation(checks.picture, seal_checks.sealed_files)
 def a_byte_of_a_picture(build):
     path = build.contents / "Resources/kelmar-uninstaller.icns"
     data = bytearray(path.read_bytes())
@@ -112,18 +113,18 @@ def a_byte_of_a_picture(build):
     path.write_bytes(data)
 
 
-@mutation(checks.picture)
+@mutation(checks.picture, seal_checks.sealed_files)
 def a_size_missing(build):
     replace(build.contents / "Resources/kelmar-uninstaller.icns", b"ic11", b"free")
 
 
-@mutation(checks.picture)
+@mutation(checks.picture, seal_checks.sealed_files)
 def an_icon_cut_off(build):
     path = build.contents / "Resources/kelmar-uninstaller.icns"
     path.write_bytes(path.read_bytes()[:-100])
 
 
-@mutation(checks.picture)
+@mutation(checks.picture, seal_checks.sealed_files)
 def a_run_of_pixels_too_long(build):
     path = build.contents / "Resources/kelmar-uninstaller.icns"
     data = bytearray(path.read_bytes())
@@ -133,7 +134,7 @@ def a_run_of_pixels_too_long(build):
     path.write_bytes(data)
 
 
-@mutation(checks.size, checks.picture)
+@mutation(checks.size, checks.picture, seal_checks.sealed_files)
 def a_bundle_too_large(build):
     with open(build.contents / "Resources/kelmar-uninstaller.icns", "ab") as picture:
         picture.write(bytes(checks.MOST_BYTES))
