@@ -135,6 +135,7 @@ void Uninstaller::handleStatusLine(std::string_view line) {
         }
         failures.push_back({parsed->subject, parsed->reason});
         log("Could not remove " + paths.display(parsed->subject) + ": " + parsed->reason);
+        adviseOnAppManagement(parsed->subject, parsed->reason);
         break;
     }
 }

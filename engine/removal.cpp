@@ -30,6 +30,7 @@ void Uninstaller::remove(const std::string& path) {
     const std::string reason = lines.empty() ? "it is still there" : lines.front();
     failures.push_back({path, reason});
     log("Could not remove " + paths.display(path) + ": " + reason);
+    adviseOnAppManagement(path, reason);
 }
 
 void Uninstaller::forgetReceipt(const std::string& identifier) {

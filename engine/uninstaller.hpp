@@ -3,6 +3,7 @@
 #include "discovery/inventory.hpp"
 #include "discovery/kelmar_paths.hpp"
 #include "engine/vocabulary.hpp"
+#include "system/files/app_management.hpp"
 
 #include <functional>
 #include <memory>
@@ -70,6 +71,8 @@ public:
     Emit emit = [](const Event&) {};
     std::vector<Failure> failures;
     std::vector<StoppedService> stoppedServices;
+    /// Where the system lets a person allow the removal of apps; empty where it asks for nothing.
+    std::string appManagement = appManagementSettings();
 
     /// The stages that a run will have, in order; computed afresh at every call.
     [[nodiscard]] std::vector<TitledStage> stages() const;
@@ -154,9 +157,13 @@ private:
     void logWhatNoPasswordHelps() const;
     void handleStatusLine(std::string_view line);
 
+    /// Logs once where to allow the removal of an app, when that is what a failure may come from.
+    void adviseOnAppManagement(std::string_view path, std::string_view reason);
+
     ShouldEnd shouldEnd_;
     bool ended_ = false;
     bool removing_ = false; ///< a removal has begun: there is no way back
+    bool hasAdvisedOnAppManagement_ = false;
 };
 
 } // namespace kelmar
