@@ -3,6 +3,7 @@
 #include "admin/quoting.hpp"
 #include "admin/script_request.hpp"
 #include "system/files/user_folders.hpp"
+#include "system/process/background_process.hpp"
 #include "system/process/environment.hpp"
 #include "system/process/processes.hpp"
 #include "system/process/resources.hpp"
@@ -104,6 +105,7 @@ std::optional<int> run(const std::vector<std::string>& options) {
     if (!asked) {
         return std::nullopt;
     }
+    becomeBackgroundProcess();
     // Read once: a parent that ends in between leaves its number to nobody that is trusted.
     const pid_t parent = ::getppid();
     @autoreleasepool {

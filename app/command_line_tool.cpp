@@ -3,6 +3,7 @@
 #include "app/scan_listing.hpp"
 #include "app/uninstall_command.hpp"
 #include "discovery/kelmar_paths.hpp"
+#include "system/process/background_process.hpp"
 #include "system/process/standard_streams.hpp"
 
 #include <algorithm>
@@ -55,6 +56,7 @@ std::optional<std::int32_t> run(const std::vector<std::string>& arguments) {
     if (options.empty()) {
         return std::nullopt;
     }
+    becomeBackgroundProcess();
     if (options.front() == "--scan") {
         printScan(KelmarPaths::current());
         return success;
