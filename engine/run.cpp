@@ -1,6 +1,7 @@
 #include "admin/status_folder.hpp"
 #include "engine/uninstaller.hpp"
 #include "system/mac_tools/pkgutil.hpp"
+#include "system/process/activity.hpp"
 
 #include <new>
 #include <utility>
@@ -102,6 +103,7 @@ Uninstaller::Outcome Uninstaller::run(Emit callback, ShouldEnd shouldEnd) {
 }
 
 Uninstaller::Outcome Uninstaller::runStages() {
+    const std::shared_ptr<void> activity = beginActivity("Uninstalling Kelmar");
     sweepTemporaryFolder(paths);
     const std::vector<TitledStage> all = stages();
     for (const TitledStage& titled : all) {

@@ -3,6 +3,7 @@
 #include "tests/gnustep/harness/dirty_region.hpp"
 #include "tests/gnustep/harness/input.hpp"
 #include "tests/gnustep/harness/screenshot.hpp"
+#include "tests/gnustep/shims/activities.h"
 #include "tests/support/snapshot.hpp"
 
 #include <filesystem>
@@ -55,6 +56,16 @@ TEST_F(WholeRun, UninstallsAfterTheQuestion) {
     EXPECT_EQ(question(), nil);
     EXPECT_EQ(files(), (Files{"/home/Kelmar/.DS_Store", "/home/Kelmar/notes.txt"}));
     EXPECT_TRUE(shows("Kept ~/Kelmar, which still holds notes.txt."));
+}
+
+TEST_F(WholeRun, KeepsTheMacAwakeAsLongAsItTakes) {
+    launchAndFind();
+    EXPECT_EQ(KelmarActivities().begun, 0);
+    askToUninstall();
+    answerWith("Uninstall and Delete Data");
+    ASSERT_TRUE(waitFor("Kelmar has been removed"));
+    EXPECT_EQ(KelmarActivities().begun, 1);
+    EXPECT_EQ(KelmarActivities().underWay, 0);
 }
 
 TEST_F(WholeRun, DoesNothingWhenTheQuestionIsCancelled) {

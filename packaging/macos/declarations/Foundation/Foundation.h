@@ -16,6 +16,7 @@
 #import <Foundation/NSObjCRuntime.h>
 #import <Foundation/NSObject.h>
 #import <Foundation/NSPathUtilities.h>
+#import <Foundation/NSProcessInfo.h>
 #import <Foundation/NSPropertyList.h>
 #import <Foundation/NSRange.h>
 #import <Foundation/NSRunLoop.h>
