@@ -9,6 +9,7 @@
 #include "ui/appkit/page.h"
 #include "ui/appkit/run_loop_modes.h"
 #include "ui/look.hpp"
+#include "ui/texts.hpp"
 
 namespace kelmar {
 
@@ -104,7 +105,7 @@ NSWindow* makeWindow() {
         [[KelmarConfirmationSheet alloc] initWithActions:&state_->actions window:window]);
     [window setContentView:state_->page];
     [window setContentSize:size];
-    [window setTitle:@"Kelmar Uninstaller"];
+    [window setTitle:kelmar::foundationText(kelmar::Texts::program)];
     [window setRestorable:NO];
     [window setDelegate:self];
     [window setAutorecalculatesKeyViewLoop:YES];

@@ -1,5 +1,6 @@
 #include "ui/qt/about_panel.hpp"
 
+#include "ui/about.hpp"
 #include "ui/look.hpp"
 #include "ui/qt/icon.hpp"
 #include "ui/qt/margins.hpp"
@@ -10,7 +11,8 @@
 namespace kelmar {
 
 AboutPanel::AboutPanel(QWidget* parent) : QDialog(parent) {
-    setWindowTitle("About Kelmar Uninstaller");
+    const About shown = about();
+    setWindowTitle(QString::fromStdString(shown.title));
     setAttribute(Qt::WA_DeleteOnClose);
     setAttribute(Qt::WA_QuitOnClose, false);
     auto* const column = new QVBoxLayout(this);
@@ -19,9 +21,9 @@ AboutPanel::AboutPanel(QWidget* parent) : QDialog(parent) {
     auto* const icon = new IconLabel(Look::aboutIcon);
     icon->showPicture("kelmar-uninstaller");
     auto* const name = new TextLabel(TextStyle::sectionTitle, TextTone::primary);
-    name->showText("Kelmar Uninstaller");
+    name->showText(shown.name);
     auto* const version = new TextLabel(TextStyle::callout, TextTone::secondary);
-    version->showText("Version " KELMAR_VERSION);
+    version->showText(shown.version);
     column->addWidget(icon, 0, Qt::AlignHCenter);
     column->addWidget(name, 0, Qt::AlignHCenter);
     column->addWidget(version, 0, Qt::AlignHCenter);

@@ -5,6 +5,7 @@
 #include "ui/qt/focus_ring.hpp"
 #include "ui/qt/fonts.hpp"
 #include "ui/qt/symbols.hpp"
+#include "ui/texts.hpp"
 
 #include <QAccessible>
 #include <QPainter>
@@ -30,7 +31,7 @@ void Disclosure::render(const Button& button, bool unfolded) {
     setText(QString::fromStdString(button.text));
     if (unfolded != unfolded_) {
         unfolded_ = unfolded;
-        setAccessibleDescription(unfolded ? "Unfolded" : "Folded");
+        setAccessibleDescription(unfolded ? Texts::unfolded : Texts::folded);
         update();
     }
 }

@@ -4,6 +4,7 @@
 #include "ui/qt/menu.hpp"
 #include "ui/qt/page.hpp"
 #include "ui/qt/symbols.hpp"
+#include "ui/texts.hpp"
 
 #include <QCloseEvent>
 #include <QScreen>
@@ -28,7 +29,7 @@ MainWindow::MainWindow(const WindowActions& actions, const std::function<void(Me
                        std::function<bool()> shouldClose)
     : shouldClose_(std::move(shouldClose)),
       page_(new PageWidget(actions)) {
-    setWindowTitle("Kelmar Uninstaller");
+    setWindowTitle(Texts::program);
     setWindowFlags(Qt::Window | Qt::CustomizeWindowHint | Qt::WindowTitleHint |
                    Qt::WindowSystemMenuHint | Qt::WindowMinimizeButtonHint |
                    Qt::WindowCloseButtonHint);

@@ -1,6 +1,7 @@
 #include "system/process/standard_streams.hpp"
 #include "ui/qt/accessibility.hpp"
 #include "ui/qt/app_delegate.hpp"
+#include "ui/texts.hpp"
 
 #include <QApplication>
 #include <cstdio>
@@ -19,9 +20,7 @@ namespace {
 void untilThereIsAWindow(QtMsgType type, const QMessageLogContext& /*where*/,
                          const QString& /*message*/) {
     if (type == QtFatalMsg) {
-        kelmar::printErrorLine(
-            "Kelmar Uninstaller finds no display to open its window on. Use --scan to list what "
-            "Kelmar has here, or --help for all options.");
+        kelmar::printErrorLine(kelmar::Texts::noDisplay);
         ::_exit(2);
     }
 }
@@ -29,7 +28,7 @@ void untilThereIsAWindow(QtMsgType type, const QMessageLogContext& /*where*/,
 /// Some desktops' plugins talk; nobody is there to listen.
 void afterwards(QtMsgType type, const QMessageLogContext& /*where*/, const QString& message) {
     if (type == QtCriticalMsg || type == QtFatalMsg) {
-        kelmar::printErrorLine("Kelmar Uninstaller: " + message.toStdString());
+        kelmar::printErrorLine(kelmar::Texts::errorPrefix + message.toStdString());
     }
 }
 
@@ -43,7 +42,7 @@ extern "C" void kelmarRunWindow() {
     qInstallMessageHandler(untilThereIsAWindow);
     QApplication application(count, arguments);
     qInstallMessageHandler(afterwards);
-    QApplication::setApplicationDisplayName("Kelmar Uninstaller");
+    QApplication::setApplicationDisplayName(kelmar::Texts::program);
     QApplication::setDesktopFileName("kelmar-uninstaller");
     kelmar::installAccessibleRoles();
     kelmar::AppDelegate delegate;

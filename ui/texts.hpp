@@ -1,0 +1,17 @@
+#pragma once
+
+/// What the window says outside of its page and menu. With the page's sections, menu.cpp and
+/// about.cpp this is every text that people read in the window: a renderer holds none.
+namespace kelmar::Texts {
+
+constexpr const char* program = "Kelmar Uninstaller"; ///< also the window's title
+constexpr const char* errorPrefix = "Kelmar Uninstaller: ";
+constexpr const char* noDisplay =
+    "Kelmar Uninstaller finds no display to open its window on. Use --scan to list what "
+    "Kelmar has here, or --help for all options.";
+
+// The state of what a control unfolds, for screen readers.
+constexpr const char* folded = "Folded";
+constexpr const char* unfolded = "Unfolded";
+
+} // namespace kelmar::Texts
