@@ -34,6 +34,11 @@ constexpr int stageTextIndent = cardPadding + rowSymbol + columnGap;
 constexpr double tintedGround = 0.1; ///< the opacity of a tinted card's ground
 constexpr double tintedEdge = 0.35;  ///< the opacity of its edge
 
+/// The contrast ratios that people need to read text, and to see a symbol or the edge of a control
+/// (WCAG 2.1, level AA). What is disabled is exempt.
+constexpr double textContrast = 4.5;
+constexpr double controlContrast = 3.0;
+
 // The log.
 constexpr int logHeight = 112;       ///< at least; the log fills what is left of the page
 constexpr int logSideMargin = 2;     ///< between the log's card and the log with its scroll bar

@@ -25,11 +25,9 @@ void CalloutBox::render(const Callout& callout) {
 
 void CalloutBox::paintEvent(QPaintEvent* /*event*/) {
     const Colours colours(palette());
-    QColor ground = colours.of(tint_);
-    QColor edge = ground;
-    ground.setAlphaF(static_cast<float>(Look::tintedGround));
+    QColor edge = colours.of(tint_);
     edge.setAlphaF(static_cast<float>(Look::tintedEdge));
-    paintCard(*this, ground, edge);
+    paintCard(*this, colours.tinted(colours.of(tint_)), edge);
 }
 
 } // namespace kelmar

@@ -42,9 +42,9 @@ void CheckBox::paintEvent(QPaintEvent* /*event*/) {
     const QRectF square(Look::focusRoom + half, std::floor((height() - box) / 2.0) + half,
                         box - Look::hairline, box - Look::hairline);
     const bool on = isChecked();
-    painter.setBrush(on ? (isDown() ? colours.accent.darker(118) : colours.accent)
+    painter.setBrush(on ? (isDown() ? colours.switchedOn.darker(118) : colours.switchedOn)
                         : (isDown() ? colours.controlPressed : colours.control));
-    painter.setPen(on ? colours.accent.darker(112) : colours.disabled);
+    painter.setPen(on ? colours.switchedOn : colours.outline);
     painter.drawRoundedRect(square, Look::controlRadius, Look::controlRadius);
     if (on) {
         painter.drawPixmap(square.topLeft() - QPointF(half, half),

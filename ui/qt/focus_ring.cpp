@@ -9,13 +9,9 @@ bool showsFocus(const QWidget& widget) {
 }
 
 void paintFocusRing(QPainter& painter, const QRectF& around, qreal radius, const Colours& colours) {
-    QColor ring = colours.accent;
-    if (colours.dark) {
-        ring = ring.lighter(150);
-    }
     painter.setBrush(Qt::NoBrush);
     constexpr int width = Look::focusRing;
-    painter.setPen(QPen(ring, width));
+    painter.setPen(QPen(colours.focusRing, width));
     painter.drawRoundedRect(around.adjusted(-width, -width, width, width), radius + width,
                             radius + width);
 }

@@ -1,6 +1,7 @@
 #include "ui/qt/slim_scroll_bar.hpp"
 
 #include "ui/qt/colours.hpp"
+#include "ui/qt/contrast.hpp"
 
 #include <QPainter>
 #include <QStyle>
@@ -27,12 +28,12 @@ void SlimScrollBar::paintEvent(QPaintEvent* /*event*/) {
     initStyleOption(&option);
     const QRect handle =
         style()->subControlRect(QStyle::CC_ScrollBar, &option, QStyle::SC_ScrollBarSlider, this);
-    QColor colour = Colours(palette()).text;
-    colour.setAlphaF(isSliderDown() ? 0.55F : underMouse() ? 0.45F : 0.3F);
+    const Colours colours(palette());
+    const double share = isSliderDown() ? 0.5 : underMouse() ? 0.3 : 0;
     QPainter painter(this);
     painter.setRenderHint(QPainter::Antialiasing);
     painter.setPen(Qt::NoPen);
-    painter.setBrush(colour);
+    painter.setBrush(mixed(colours.scrollBar, colours.text, share));
     painter.drawRoundedRect(QRectF(handle).adjusted(sideMargin, endMargin, -sideMargin, -endMargin),
                             handleRadius, handleRadius);
 }

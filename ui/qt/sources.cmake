@@ -11,6 +11,7 @@ set(qt_sources
     colours.cpp
     confirmation.cpp
     content.cpp
+  contrast.cpp
     data_section.cpp
     details.cpp
     disclosure.cpp
