@@ -171,6 +171,34 @@ TEST_F(WholeUninstall, WithTheMouseAloneAndTheDataKept) {
     expectEnd();
 }
 
+TEST_F(WholeUninstall, DeletesWhatAScreenReaderLeftTicked) {
+    open();
+    ASSERT_TRUE(shows("push button: Uninstall"));
+    ASSERT_TRUE(window().find("push button", "Choose folders").press());
+    ASSERT_TRUE(shows("check box: Logs (on)"));
+    ASSERT_TRUE(window().find("check box", "Delete Kelmar data").press());
+    ASSERT_TRUE(shows("check box: Delete Kelmar data"));
+    ASSERT_TRUE(shows("check box: Logs")) << "the switch is for every folder";
+    ASSERT_TRUE(window().find("check box", "Delete Kelmar data").press());
+    ASSERT_TRUE(shows("check box: Staging (on)"));
+    ASSERT_TRUE(window().find("check box", "Logs").press());
+    ASSERT_TRUE(shows("check box: Logs"));
+    const std::string size =
+        sizeOf({inHome("Database"), inHome("Store"), inHome("Export"), shared("CDN"),
+                shared("CDN_remote"), shared("Models"), shared("Staging")});
+    ASSERT_TRUE(shows("label: Delete Kelmar data, " + size));
+    ASSERT_TRUE(window().find("push button", "Uninstall").press());
+    ASSERT_TRUE(shows("alert: Delete " + size + " of Kelmar data?"));
+    ASSERT_TRUE(window().find("push button", "Uninstall and Delete Data").press());
+    ASSERT_TRUE(shows("label: Kept ~/Kelmar, which still holds Logs and notes.txt."));
+    EXPECT_TRUE(isThere(inHome("Logs/part-0")));
+    EXPECT_FALSE(isThere(inHome("Store")));
+    ASSERT_TRUE(window().find("push button", "Details").press());
+    ASSERT_TRUE(shows("text: Details"));
+    ASSERT_TRUE(window().find("push button", "Quit").press());
+    EXPECT_LE(expectEnd(), test::exitTimeout);
+}
+
 TEST_F(WholeUninstall, SaysEachPhaseAtOnceToPeopleWhoCannotSeeIt) {
     const test::AnnouncementRecorder recorder;
     open();

@@ -1,5 +1,6 @@
 #include "ui/qt/accessibility.hpp"
 
+#include <QAbstractButton>
 #include <QAccessibleWidget>
 #include <QLabel>
 #include <QVariant>
@@ -8,26 +9,76 @@ namespace kelmar {
 
 namespace {
 
-constexpr const char* property = "kelmarAccessibleRole";
+constexpr const char* roleProperty = "kelmarAccessibleRole";
 
-/// A widget in another role than its class has; a label is still named by its text.
+/// A widget in another role than its class has.
 class InRole : public QAccessibleWidget {
 public:
     InRole(QWidget& widget, QAccessible::Role role) : QAccessibleWidget(&widget, role) {}
 
     [[nodiscard]] QString text(QAccessible::Text kind) const override {
-        const auto* const label = qobject_cast<const QLabel*>(widget());
         const QString own = QAccessibleWidget::text(kind);
-        return kind == QAccessible::Name && own.isEmpty() && label != nullptr ? label->text() : own;
+        return kind == QAccessible::Name && own.isEmpty() ? shownText() : own;
     }
+
+private:
+    [[nodiscard]] virtual QString shownText() const {
+        const auto* const label = qobject_cast<const QLabel*>(widget());
+        return label == nullptr ? QString() : label->text();
+    }
+};
+
+/// A button whose one action is a click. The toolkit's own interface changes a check box itself,
+/// and presses another button only after a while, when it may stand for something else.
+class ButtonInRole : public InRole {
+public:
+    using InRole::InRole;
+
+    [[nodiscard]] QAccessible::State state() const override {
+        QAccessible::State state = InRole::state();
+        state.checkable = button().isCheckable();
+        state.checked = button().isChecked();
+        state.pressed = button().isDown();
+        return state;
+    }
+
+    [[nodiscard]] QStringList actionNames() const override {
+        QStringList names = InRole::actionNames();
+        if (button().isEnabled()) {
+            names.prepend(click());
+        }
+        return names;
+    }
+
+    void doAction(const QString& name) override {
+        if (name == click()) {
+            button().click();
+        } else {
+            InRole::doAction(name);
+        }
+    }
+
+private:
+    [[nodiscard]] QAbstractButton& button() const {
+        return static_cast<QAbstractButton&>(*widget());
+    }
+
+    [[nodiscard]] QString click() const {
+        return button().isCheckable() ? toggleAction() : pressAction();
+    }
+
+    [[nodiscard]] QString shownText() const override { return button().text(); }
 };
 
 QAccessibleInterface* interfaceFor(const QString& /*className*/, QObject* object) {
     auto* const widget = qobject_cast<QWidget*>(object);
-    if (widget == nullptr || !widget->property(property).isValid()) {
+    if (widget == nullptr || !widget->property(roleProperty).isValid()) {
         return nullptr;
     }
-    const auto role = static_cast<QAccessible::Role>(widget->property(property).toInt());
+    const auto role = static_cast<QAccessible::Role>(widget->property(roleProperty).toInt());
+    if (qobject_cast<QAbstractButton*>(object) != nullptr) {
+        return new ButtonInRole(*widget, role);
+    }
     return new InRole(*widget, role);
 }
 
@@ -38,7 +89,7 @@ void installAccessibleRoles() {
 }
 
 void setAccessibleRole(QWidget& widget, QAccessible::Role role) {
-    widget.setProperty(property, static_cast<int>(role));
+    widget.setProperty(roleProperty, static_cast<int>(role));
 }
 
 void announce(QWidget& widget, const QString& text) {

@@ -20,7 +20,7 @@ constexpr double half = Look::hairline / 2.0; ///< to the middle of the box's ed
 
 } // namespace
 
-CheckBox::CheckBox(QWidget* parent) : QCheckBox(parent) {
+CheckBox::CheckBox(QWidget* parent) : Choice(parent) {
     setFont(fontOf(TextStyle::body));
     setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
 }
@@ -29,10 +29,6 @@ QSize CheckBox::sizeHint() const {
     const QFontMetrics metrics(font());
     return {textLeft + metrics.horizontalAdvance(text()) + Look::focusRoom,
             2 * Look::focusRoom + std::max(box, metrics.height())};
-}
-
-bool CheckBox::hitButton(const QPoint& point) const {
-    return rect().contains(point);
 }
 
 void CheckBox::paintEvent(QPaintEvent* /*event*/) {

@@ -1,11 +1,11 @@
 #pragma once
 
-#include <QCheckBox>
+#include "ui/qt/choice.hpp"
 
 namespace kelmar {
 
 /// A check box with its text.
-class CheckBox : public QCheckBox {
+class CheckBox : public Choice {
 public:
     explicit CheckBox(QWidget* parent = nullptr);
 
@@ -15,7 +15,6 @@ public:
 
 protected:
     void paintEvent(QPaintEvent* event) override;
-    [[nodiscard]] bool hitButton(const QPoint& point) const override;
 };
 
 } // namespace kelmar

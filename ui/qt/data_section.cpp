@@ -49,8 +49,7 @@ DataSectionWidget::DataSectionWidget(WindowActions actions, QWidget* parent)
     card().rows().addLayout(listed_);
 
     label_->nameFor(switch_);
-    connect(switch_, &QAbstractButton::clicked, this,
-            [this](bool on) { actions_.setDeleteAllData(on); });
+    switch_->onRequest([this](bool on) { actions_.setDeleteAllData(on); });
     connect(folders_, &QAbstractButton::clicked, this,
             [this] { actions_.perform(folders_->shown().action); });
 }

@@ -1,6 +1,7 @@
 #include "ui/qt/disclosure.hpp"
 
 #include "ui/look.hpp"
+#include "ui/qt/accessibility.hpp"
 #include "ui/qt/colours.hpp"
 #include "ui/qt/focus_ring.hpp"
 #include "ui/qt/fonts.hpp"
@@ -25,6 +26,7 @@ Disclosure::Disclosure(QWidget* parent) : QPushButton(parent) {
     setAutoDefault(false);
     setFlat(true);
     setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
+    setAccessibleRole(*this, QAccessible::Button);
 }
 
 void Disclosure::render(const Button& button, bool unfolded) {

@@ -13,6 +13,8 @@ public:
 
     void render(const Button& button, bool unfolded);
 
+    [[nodiscard]] bool isUnfolded() const { return unfolded_; }
+
     [[nodiscard]] QSize sizeHint() const override;
 
     [[nodiscard]] QSize minimumSizeHint() const override { return sizeHint(); }

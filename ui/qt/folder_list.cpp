@@ -24,8 +24,7 @@ FolderRowWidget::FolderRowWidget(const SelectFolder& select, QWidget* parent)
     row->addWidget(check_);
     row->addWidget(summary_, 1, Qt::AlignVCenter);
     row->addWidget(size_);
-    connect(check_, &QAbstractButton::clicked, this,
-            [this, select](bool checked) { select(path_, checked); });
+    check_->onRequest([this, select](bool selected) { select(path_, selected); });
 }
 
 void FolderRowWidget::render(const FolderRow& row) {
@@ -33,6 +32,7 @@ void FolderRowWidget::render(const FolderRow& row) {
     const QString name = QString::fromStdString(row.name);
     if (name != check_->text()) {
         check_->setText(name);
+        check_->setShortcut({}); // an ampersand of a name marks no key
     }
     check_->setChecked(row.checked);
     check_->setAccessibleDescription(QString::fromStdString(row.summary));

@@ -1,6 +1,7 @@
 #include "ui/qt/push_button.hpp"
 
 #include "ui/look.hpp"
+#include "ui/qt/accessibility.hpp"
 #include "ui/qt/colours.hpp"
 #include "ui/qt/focus_ring.hpp"
 #include "ui/qt/fonts.hpp"
@@ -23,11 +24,15 @@ PushButton::PushButton(Size size, QWidget* parent) : QPushButton(parent), size_(
     setAutoDefault(false);
     setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
     setAttribute(Qt::WA_Hover);
+    setAccessibleRole(*this, QAccessible::Button);
 }
 
 void PushButton::render(const Button& button) {
     if (button == shown_ && !text().isEmpty()) {
         return;
+    }
+    if (button.action != shown_.action) {
+        setDown(false); // a press that has begun was meant for what stood here before
     }
     shown_ = button;
     setText(QString::fromStdString(button.text));

@@ -8,6 +8,7 @@ set(qt_sources
     callout.cpp
     card.cpp
     check_box.cpp
+    choice.cpp
     colours.cpp
     confirmation.cpp
     content.cpp

@@ -16,16 +16,12 @@ constexpr int knob = Look::switchHeight - 2 * knobInset;
 
 } // namespace
 
-ToggleSwitch::ToggleSwitch(QWidget* parent) : QCheckBox(parent) {
+ToggleSwitch::ToggleSwitch(QWidget* parent) : Choice(parent) {
     setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
 }
 
 QSize ToggleSwitch::sizeHint() const {
     return {Look::switchWidth + 2 * Look::focusRoom, Look::switchHeight + 2 * Look::focusRoom};
-}
-
-bool ToggleSwitch::hitButton(const QPoint& point) const {
-    return rect().contains(point);
 }
 
 void ToggleSwitch::paintEvent(QPaintEvent* /*event*/) {

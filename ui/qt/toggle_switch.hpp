@@ -1,11 +1,11 @@
 #pragma once
 
-#include <QCheckBox>
+#include "ui/qt/choice.hpp"
 
 namespace kelmar {
 
 /// A check box in the shape of a switch; the label beside it names it.
-class ToggleSwitch : public QCheckBox {
+class ToggleSwitch : public Choice {
 public:
     explicit ToggleSwitch(QWidget* parent = nullptr);
 
@@ -15,7 +15,6 @@ public:
 
 protected:
     void paintEvent(QPaintEvent* event) override;
-    [[nodiscard]] bool hitButton(const QPoint& point) const override;
 };
 
 } // namespace kelmar
