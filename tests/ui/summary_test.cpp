@@ -12,7 +12,7 @@
 namespace kelmar {
 namespace {
 
-using Rows = std::vector<SummaryRow>;
+using SummaryRows = std::vector<SummaryRow>;
 
 SummaryRow done(const std::string& text) {
     return {"checkmark.circle.fill", Tint::green, text};
@@ -28,7 +28,7 @@ const SummaryRow dataGone = done("Deleted 3 MB of Kelmar data.");
 
 class Summary : public testing::Test {
 protected:
-    [[nodiscard]] Rows rows() const { return summary(published, tree.paths()); }
+    [[nodiscard]] SummaryRows rows() const { return summary(published, tree.paths()); }
 
     /// Makes the run one that had `names` in my data root and deleted `deleted`, 3 MB each.
     void deleteOf(const std::vector<std::string>& names, const std::vector<std::string>& deleted) {
@@ -45,17 +45,17 @@ protected:
 };
 
 TEST_F(Summary, AlwaysNamesTheSettings) {
-    EXPECT_EQ(rows(), Rows{settingsGone});
+    EXPECT_EQ(rows(), SummaryRows{settingsGone});
 }
 
 TEST_F(Summary, NamesTheAppAfterAnInstallation) {
     published.removed.installations = {test::installation(tree.paths(), Scope::allUsers)};
-    EXPECT_EQ(rows(), (Rows{appGone, settingsGone}));
+    EXPECT_EQ(rows(), (SummaryRows{appGone, settingsGone}));
 }
 
 TEST_F(Summary, NamesTheAppAfterLoadedServices) {
     published.removed.loadedServices = {"com.kelmar.api"};
-    EXPECT_EQ(rows(), (Rows{appGone, settingsGone}));
+    EXPECT_EQ(rows(), (SummaryRows{appGone, settingsGone}));
 }
 
 TEST_F(Summary, IsOfWhatWasThereNotOfWhatIs) {
@@ -64,75 +64,75 @@ TEST_F(Summary, IsOfWhatWasThereNotOfWhatIs) {
     published.inventory.dataRoots = {test::dataRoot(tree.paths(), Scope::me, {"Store"})};
     published.selectedData = {test::dataFolder(tree.paths(), Scope::me, "Store").path};
     tree.dataFolder(Scope::me, "Store");
-    EXPECT_EQ(rows(), Rows{settingsGone});
+    EXPECT_EQ(rows(), SummaryRows{settingsGone});
 }
 
 TEST_F(Summary, OtherThingsDoNotNameTheApp) {
     published.removed.appRunning = true;
     published.removed.settings = {"/s"};
     published.removed.keychainItems = {"Kelmar Safe Storage"};
-    EXPECT_EQ(rows(), Rows{settingsGone});
+    EXPECT_EQ(rows(), SummaryRows{settingsGone});
 }
 
 TEST_F(Summary, SaysHowMuchDataWasDeleted) {
     deleteOf({"Store"}, {"Store"});
-    EXPECT_EQ(rows(), (Rows{settingsGone, dataGone}));
+    EXPECT_EQ(rows(), (SummaryRows{settingsGone, dataGone}));
     published.sizes.begin()->second = 0;
-    EXPECT_EQ(rows(), (Rows{settingsGone, done("Deleted Empty of Kelmar data.")}));
+    EXPECT_EQ(rows(), (SummaryRows{settingsGone, done("Deleted Empty of Kelmar data.")}));
 }
 
 TEST_F(Summary, AddsTheSizesOfAllThatWasDeleted) {
     deleteOf({"Store", "Logs"}, {"Store", "Logs"});
-    EXPECT_EQ(rows(), (Rows{settingsGone, done("Deleted 6 MB of Kelmar data.")}));
+    EXPECT_EQ(rows(), (SummaryRows{settingsGone, done("Deleted 6 MB of Kelmar data.")}));
 }
 
 TEST_F(Summary, DoesNotKnowTheSizeOfWhatWasNotMeasured) {
     deleteOf({"Store", "Logs"}, {"Store", "Logs"});
     published.sizes.erase(published.sizes.begin());
-    EXPECT_EQ(rows(), (Rows{settingsGone, done("Deleted your Kelmar data.")}));
+    EXPECT_EQ(rows(), (SummaryRows{settingsGone, done("Deleted your Kelmar data.")}));
 }
 
 TEST_F(Summary, DataThatWasNotChosenIsKept) {
     tree.dataFolder(Scope::me, "Store").otherItem(Scope::me, "notes.txt");
     deleteOf({"Store"}, {});
-    EXPECT_EQ(rows(), (Rows{settingsGone, kept("Kept your Kelmar data in ~/Kelmar.")}));
+    EXPECT_EQ(rows(), (SummaryRows{settingsGone, kept("Kept your Kelmar data in ~/Kelmar.")}));
 }
 
 TEST_F(Summary, ARootThatWasNotTouchedIsKeptThoughNothingMattersInIt) {
     tree.otherItem(Scope::me, ".DS_Store");
     deleteOf({"Store"}, {});
-    EXPECT_EQ(rows(), (Rows{settingsGone, kept("Kept your Kelmar data in ~/Kelmar.")}));
+    EXPECT_EQ(rows(), (SummaryRows{settingsGone, kept("Kept your Kelmar data in ~/Kelmar.")}));
 }
 
 TEST_F(Summary, ARootThatIsGoneHasNoRow) {
     deleteOf({"Store"}, {"Store"});
-    EXPECT_EQ(rows(), (Rows{settingsGone, dataGone}));
+    EXPECT_EQ(rows(), (SummaryRows{settingsGone, dataGone}));
     deleteOf({"Store"}, {});
     published.deletedData.clear();
-    EXPECT_EQ(rows(), Rows{settingsGone});
+    EXPECT_EQ(rows(), SummaryRows{settingsGone});
 }
 
 TEST_F(Summary, ARootThatCannotBeListedHasNoRow) {
     tree.file(tree.paths().dataRoot(Scope::me), "a file in the folder's place");
     deleteOf({"Store"}, {});
-    EXPECT_EQ(rows(), Rows{settingsGone});
+    EXPECT_EQ(rows(), SummaryRows{settingsGone});
     deleteOf({"Store"}, {"Store"});
-    EXPECT_EQ(rows(), (Rows{settingsGone, dataGone}));
+    EXPECT_EQ(rows(), (SummaryRows{settingsGone, dataGone}));
 }
 
 TEST_F(Summary, ARootWithNothingLeftHasNoRow) {
     tree.folder(tree.paths().dataRoot(Scope::me));
     deleteOf({"Store"}, {"Store"});
-    EXPECT_EQ(rows(), (Rows{settingsGone, dataGone}));
+    EXPECT_EQ(rows(), (SummaryRows{settingsGone, dataGone}));
 }
 
 TEST_F(Summary, NamesThatNeverCountDoNotCount) {
     tree.otherItem(Scope::me, ".DS_Store").otherItem(Scope::me, ".localized");
     deleteOf({"Store"}, {"Store"});
-    EXPECT_EQ(rows(), (Rows{settingsGone, dataGone}));
+    EXPECT_EQ(rows(), (SummaryRows{settingsGone, dataGone}));
     tree.dataFolder(Scope::me, "Logs");
-    EXPECT_EQ(rows(),
-              (Rows{settingsGone, dataGone, kept("Kept ~/Kelmar, which still holds Logs.")}));
+    EXPECT_EQ(rows(), (SummaryRows{settingsGone, dataGone,
+                                   kept("Kept ~/Kelmar, which still holds Logs.")}));
 }
 
 TEST_F(Summary, ListsWhatARootStillHolds) {
@@ -156,8 +156,9 @@ TEST_F(Summary, EachRootIsJudgedByItself) {
     deleteOf({"Store", "Logs"}, {"Store"});
     published.removed.dataRoots.push_back(
         test::dataRoot(tree.paths(), Scope::allUsers, {"CDN", "Models"}));
-    EXPECT_EQ(rows(), (Rows{settingsGone, dataGone, kept("Kept ~/Kelmar, which still holds Logs."),
-                            kept("Kept your Kelmar data in /Users/Shared/@Kelmar.")}));
+    EXPECT_EQ(rows(),
+              (SummaryRows{settingsGone, dataGone, kept("Kept ~/Kelmar, which still holds Logs."),
+                           kept("Kept your Kelmar data in /Users/Shared/@Kelmar.")}));
 }
 
 TEST_F(Summary, BothRootsMayHaveLostData) {
@@ -167,8 +168,9 @@ TEST_F(Summary, BothRootsMayHaveLostData) {
         test::dataRoot(tree.paths(), Scope::allUsers, {"CDN", "Models"}));
     published.deletedData.push_back(test::dataFolder(tree.paths(), Scope::allUsers, "CDN"));
     published.sizes[published.deletedData.back().path] = 0;
-    EXPECT_EQ(rows(), (Rows{settingsGone, dataGone, kept("Kept ~/Kelmar, which still holds Logs."),
-                            kept("Kept /Users/Shared/@Kelmar, which still holds Models.")}));
+    EXPECT_EQ(rows(),
+              (SummaryRows{settingsGone, dataGone, kept("Kept ~/Kelmar, which still holds Logs."),
+                           kept("Kept /Users/Shared/@Kelmar, which still holds Models.")}));
 }
 
 TEST_F(Summary, HasEverythingInItsOrder) {
@@ -179,9 +181,9 @@ TEST_F(Summary, HasEverythingInItsOrder) {
         test::dataRoot(tree.paths(), Scope::allUsers, {"Models"}),
         test::dataRoot(tree.paths(), Scope::me, {"Store", "Logs"}),
     };
-    EXPECT_EQ(rows(), (Rows{appGone, settingsGone, dataGone,
-                            kept("Kept your Kelmar data in /Users/Shared/@Kelmar."),
-                            kept("Kept ~/Kelmar, which still holds Logs.")}));
+    EXPECT_EQ(rows(), (SummaryRows{appGone, settingsGone, dataGone,
+                                   kept("Kept your Kelmar data in /Users/Shared/@Kelmar."),
+                                   kept("Kept ~/Kelmar, which still holds Logs.")}));
 }
 
 } // namespace
