@@ -22,7 +22,7 @@ constexpr std::string_view folderName = "/kelmar-uninstaller-";
 constexpr std::string_view fileName = "/status";
 
 /// No run takes so long: what tells a folder in use where the file system has no locks.
-constexpr std::time_t day = 24 * 60 * 60;
+constexpr std::time_t day = 86400; // seconds
 
 FileDescriptor openFolder(const std::string& path) {
     return FileDescriptor(::open(path.c_str(), O_RDONLY | O_DIRECTORY | O_NOFOLLOW | O_CLOEXEC));

@@ -3,14 +3,10 @@
 #include "tests/support/rm_words.hpp"
 #include "tests/support/snapshot.hpp"
 #include "tests/support/temporary_folder.hpp"
-#include "tests/trace/trace.hpp"
 
 #include <gtest/gtest.h>
 
-#include <algorithm>
 #include <csignal>
-#include <cstddef>
-#include <cstdlib>
 #include <filesystem>
 #include <fstream>
 #include <string>
@@ -36,19 +32,6 @@ protected:
     void expectDataKept() const {
         EXPECT_EQ(test::contents(tree.paths().home + "/Kelmar"), kept);
         EXPECT_EQ(test::contents(tree.paths().dataRoot(Scope::allUsers)), keptForAll);
-    }
-
-    /// What there is on the Mac and in the home folder. The temporary folder is the system's to
-    /// tidy: who is killed leaves something there.
-    [[nodiscard]] std::vector<std::string> names() const {
-        std::vector<std::string> names;
-        for (const std::string& root : {tree.paths().systemRoot, tree.paths().home}) {
-            for (const auto& entry : fs::recursive_directory_iterator(root)) {
-                names.push_back(entry.path());
-            }
-        }
-        std::sort(names.begin(), names.end());
-        return names;
     }
 
     [[nodiscard]] test::Program keepData() const {
@@ -86,34 +69,6 @@ protected:
     std::map<std::string, std::string> kept;
     std::map<std::string, std::string> keptForAll;
 };
-
-TEST_F(Faults, KilledAtAnySystemCallASecondRunEndsWithNothingLeft) {
-    if (const std::string reason = test::whyNotTraced(); !reason.empty()) {
-        GTEST_SKIP() << reason;
-    }
-    const test::Recording whole = test::record(keepData(), test::Follow::processes);
-    ASSERT_EQ(whole.end.status, 0);
-    const std::vector<std::string> left = names();
-    // A spread of them; with the variable, which takes long, at each.
-    const bool every = std::getenv("KELMAR_EVERY_SYSTEM_CALL") != nullptr;
-    const std::size_t step = every ? 1 : std::max<std::size_t>(1, whole.calls.size() / 30);
-    std::size_t killed = 0;
-    for (std::size_t each = 0; each < whole.calls.size(); each += step) {
-        const test::SystemCall& call = whole.calls[each];
-        SCOPED_TRACE(test::describe(call));
-        tree.everything();
-        const test::Struck first =
-            test::strike(keepData(), test::Follow::processes, call, {test::Verdict::Kind::kill});
-        EXPECT_EQ(first.end.status, first.came ? -SIGKILL : 0);
-        killed += first.came ? 1 : 0;
-        const test::ProgramEnd second = keepData().run();
-        EXPECT_EQ(second.status, 0) << second.output;
-        EXPECT_EQ(names(), left);
-        EXPECT_EQ(keepData().run().output, "Kelmar has been removed.\n") << "only data is left";
-        expectDataKept();
-    }
-    EXPECT_GT(killed * step, whole.calls.size() / 2);
-}
 
 TEST_F(Faults, AMissingTemporaryFolderIsMade) {
     fs::remove_all(tree.paths().temporaryDirectory);

@@ -6,6 +6,7 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <csignal>
 #include <filesystem>
 #include <fstream>
@@ -58,12 +59,10 @@ protected:
     }
 
     [[nodiscard]] bool noFolderIsLeft() const {
-        for (const auto& entry : fs::directory_iterator(tree.paths().temporaryDirectory)) {
-            if (entry.path().filename().string().starts_with("kelmar-uninstaller-")) {
-                return false;
-            }
-        }
-        return true;
+        const fs::directory_iterator entries(tree.paths().temporaryDirectory);
+        return std::none_of(begin(entries), end(entries), [](const fs::directory_entry& entry) {
+            return entry.path().filename().string().starts_with("kelmar-uninstaller-");
+        });
     }
 
     test::TemporaryFolder folder;

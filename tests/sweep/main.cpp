@@ -1,6 +1,10 @@
 // Runs the built program again and again on a sample Mac and lets one system call fail, or kills
-// everything at it, each time another: "sweep [--every N] [--program] fail|kill scan|keep|delete".
-// With --program only the program's own calls are taken, else also those of what it starts.
+// everything at it, each time another:
+//
+//     sweep [--every N] [--program] [--call NAME] fail|kill scan|keep|delete
+//
+// With --program only the program's own calls are taken, else also those of what it starts; with
+// --call only those of a name, as openat.
 
 #include "tests/support/timeouts.hpp"
 #include "tests/sweep/swept_mac.hpp"
@@ -14,6 +18,7 @@
 #include <mutex>
 #include <string>
 #include <thread>
+#include <utility>
 #include <vector>
 
 namespace kelmar::test {
@@ -25,15 +30,19 @@ struct Options {
     std::size_t step = 1;
     Follow follow = Follow::processes;
     Verdict::Kind kind = Verdict::Kind::fail;
+    std::string call; ///< empty for all
     std::string request;
 };
 
 class Sweep {
 public:
-    explicit Sweep(const Options& options) : options_(options) {
+    explicit Sweep(Options options) : options_(std::move(options)) {
         SweptMac mac(options_.request);
         const Recording recording = record(mac.program(), options_.follow);
-        const std::vector<Point> all = pointsOf(recording.calls, options_.kind, mac.program().path);
+        std::vector<Point> all = pointsOf(recording.calls, options_.kind, mac.program().path);
+        std::erase_if(all, [this](const Point& point) {
+            return !options_.call.empty() && nameOf(point.call) != options_.call;
+        });
         points_ = sample(all, options_.step);
         std::cout << recording.calls.size() << " calls, " << all.size() << " points, "
                   << points_.size() << " of them tried\n";
@@ -102,6 +111,8 @@ Options parse(const std::vector<std::string>& words) {
     for (std::size_t at = 0; at < words.size(); ++at) {
         if (words[at] == "--every") {
             options.step = std::stoul(words.at(++at));
+        } else if (words[at] == "--call") {
+            options.call = words.at(++at);
         } else if (words[at] == "--program") {
             options.follow = Follow::threads;
         } else if (words[at] == "fail" || words[at] == "kill") {
@@ -132,7 +143,8 @@ int main(int count, char** arguments) {
     try {
         return kelmar::test::sweep({arguments + 1, arguments + count});
     } catch (const std::exception& error) {
-        std::cerr << "usage: sweep [--every N] [--program] fail|kill scan|keep|delete: "
+        std::cerr << "usage: sweep [--every N] [--program] [--call NAME] fail|kill "
+                     "scan|keep|delete: "
                   << error.what() << '\n';
         return EXIT_FAILURE;
     }

@@ -139,7 +139,7 @@ void SweptMac::judgeListing(const Point& point, const ProgramEnd& end) {
 std::vector<std::string> SweptMac::leftIn(const Contents& now) const {
     std::vector<std::string> left;
     for (const auto& [path, what] : now) {
-        if (!isTemporary(path) && after_.count(path) == 0) {
+        if (!isTemporary(path) && !after_.contains(path)) {
             left.push_back(path);
         }
     }
