@@ -7,6 +7,9 @@ import re
 import icon
 from build import IDENTIFIER, MINIMUM, NAME, PROJECT, legacy_identifier, output_of, tree, version
 
+# What macOS may ask for, each time with a sentence of the program's: why.
+USAGES = ("AppleEvents", "DesktopFolder", "DocumentsFolder", "DownloadsFolder")
+
 MOST_BYTES = 4 * 1024 * 1024
 
 # All that is in the bundle, with the modes.
@@ -70,9 +73,11 @@ def information_list(build):
     except Exception as error:  # pylint: disable=broad-exception-caught # whatever stops a reader is a finding
         yield f"not a property list: {error}"
         return
-    usage = found.pop("NSAppleEventsUsageDescription", "")
-    if not re.fullmatch(r"[A-Z][^.]+\.", usage):
-        yield f"NSAppleEventsUsageDescription is not one sentence: {usage!r}"
+    for subject in USAGES:
+        key = f"NS{subject}UsageDescription"
+        usage = found.pop(key, "")
+        if not re.fullmatch(r"[A-Z][^.]+\.", usage):
+            yield f"{key} is not one sentence: {usage!r}"
     wanted = information()
     for key in sorted(found.keys() | wanted.keys()):
         if found.get(key) != wanted.get(key):
@@ -82,7 +87,12 @@ def information_list(build):
 
 
 def entitlements(build):
-    found = plistlib.loads(build.entitlements.read_bytes())
+    data = build.entitlements.read_bytes()
+    for comment in re.findall(rb"<!--(.*?)-->", data, re.DOTALL):
+        if b"--" in comment:
+            yield "a comment holds two hyphens, which no reader of XML need take"
+            return
+    found = plistlib.loads(data)
     if found != {"com.apple.security.automation.apple-events": True}:
         yield f"{found}: not AppleScript, which asks for the password, and nothing else"
 

@@ -65,6 +65,11 @@ def a_key_missing(build):
 
 
 @mutation(checks.information_list, seal_checks.signature)
+def a_folder_that_is_asked_for_without_a_reason(build):
+    edit_information(build, lambda values: values.update(NSDownloadsFolderUsageDescription=""))
+
+
+@mutation(checks.information_list, seal_checks.signature)
 def a_key_more(build):
     edit_information(build, lambda values: values.update(LSUIElement=True))
 
@@ -89,6 +94,12 @@ def an_entitlement_missing(build):
 @mutation(checks.entitlements)
 def an_entitlement_more(build):
     edit_entitlements(build, lambda values: values.update({"com.apple.security.cs.disable-library-validation": True}))
+
+
+@mutation(checks.entitlements)
+def a_comment_with_two_hyphens_in_the_entitlements(build):
+    edit_entitlements(build, lambda values: None)
+    replace(build.entitlements, b"<dict>", b"<!-- as with --options --><dict>")
 
 
 @mutation(checks.type_and_creator)
