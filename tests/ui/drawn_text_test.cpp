@@ -1,0 +1,40 @@
+#include "ui/drawn_text.hpp"
+
+#include <gtest/gtest.h>
+
+namespace kelmar {
+namespace {
+
+TEST(DrawnText, OfAnOrdinarySentenceIsThatSentence) {
+    EXPECT_EQ(drawnText("Kelmar 4.2, installed for you…"), "Kelmar 4.2, installed for you…");
+    EXPECT_EQ(drawnText(""), "");
+}
+
+TEST(DrawnText, IsolatesEveryRightToLeftName) {
+    EXPECT_EQ(drawnText("Also: תיק, مجلد, x."), "Also: \u2068תיק\u2069, \u2068مجلد\u2069, x.");
+    EXPECT_EQ(drawnText("תיק"), "\u2068תיק\u2069");
+}
+
+TEST(DrawnText, KeepsTheWordsOfANameTogether) {
+    EXPECT_EQ(drawnText("a, תיקייה שלי, b"), "a, \u2068תיקייה שלי\u2069, b");
+    EXPECT_EQ(drawnText("תיק-שלי.תיק"), "\u2068תיק-שלי.תיק\u2069");
+}
+
+TEST(DrawnText, KeepsTheOrderOfAPathsFolders) {
+    EXPECT_EQ(drawnText("~/תיק/שלי"), "~/\u200B\u2068תיק\u2069/\u200B\u2068שלי\u2069");
+}
+
+TEST(DrawnText, LetsALineBreakAfterEverySlash) {
+    EXPECT_EQ(drawnText("~/Library/Kelmar"), "~/\u200BLibrary/\u200BKelmar");
+}
+
+TEST(DrawnText, ShowsAControlCharacterAsOneThatFontsHave) {
+    EXPECT_EQ(drawnText("a\nb\x1b[31m\x7f"), "a\uFFFDb\uFFFD[31m\uFFFD");
+}
+
+TEST(DrawnText, ObeysNoDirectionMarkOfAName) {
+    EXPECT_EQ(drawnText("a\u202Eb\u2068c"), "a\uFFFDb\uFFFDc");
+}
+
+} // namespace
+} // namespace kelmar
