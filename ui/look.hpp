@@ -9,13 +9,15 @@ namespace Look {
 // The window and its page.
 constexpr int windowWidth = 600;
 constexpr int windowHeight = 620;
-constexpr int windowIcon = 64; ///< in the desktop's lists of windows
-constexpr int pageMargin = 24; ///< at the sides of header, content and footer
-constexpr int sectionGap = 16; ///< between sections, and above and below all of them
-constexpr int partGap = 8;     ///< between the parts of a row or of a section
-constexpr int lineGap = 4;     ///< between lines that belong together
-constexpr int textGap = 2;     ///< between a row's title and the detail under it
-constexpr int hairline = 1;    ///< the thickness of a dividing line
+constexpr int windowIcon = 64;    ///< in the desktop's lists of windows
+constexpr int pageMargin = 24;    ///< at the sides of header, content and footer
+constexpr int headerPadding = 12; ///< above and below the header
+constexpr int noticeMargin = 48;  ///< at the sides of a text that stands alone on the page
+constexpr int sectionGap = 16;    ///< between sections, and above and below all of them
+constexpr int partGap = 8;        ///< between the parts of a row or of a section
+constexpr int lineGap = 4;        ///< between lines that belong together
+constexpr int textGap = 2;        ///< between a row's title and the detail under it
+constexpr int hairline = 1;       ///< the thickness of a dividing line
 
 // Icons, symbols and the spinner: the side of a square.
 constexpr int headerIcon = 56;
@@ -27,12 +29,23 @@ constexpr int spinner = 16;    ///< in the middle of a square of `rowSymbol`
 // Cards.
 constexpr int cardPadding = 12; ///< around a card's content, and between undivided rows
 constexpr int cardRadius = 10;
-constexpr int rowPadding = 8; ///< above and below the texts of a divided row
+constexpr int rowPadding = 6; ///< above and below the texts of a divided row
 constexpr int columnGap = 12; ///< between columns in a card, such as a row's icon and its texts
-constexpr int foundTextIndent = cardPadding + rowIcon + columnGap;
+
+/// The column of icons before texts: an icon in the middle of the column's width.
+struct IconColumn {
+    int icon;
+    int width;
+    int gap; ///< between the column and the text
+};
+
+constexpr IconColumn rowIcons{rowSymbol, rowIcon, columnGap};    ///< of every row in a card
+constexpr IconColumn noteIcons{noteSymbol, noteSymbol, partGap}; ///< of notes and spinners outside
+constexpr int rowTextIndent = cardPadding + rowIcons.width + rowIcons.gap;
+constexpr int foundTextIndent = rowTextIndent;
 constexpr int stageTextIndent = cardPadding + rowSymbol + columnGap;
-constexpr double tintedGround = 0.1; ///< the opacity of a tinted card's ground
-constexpr double tintedEdge = 0.35;  ///< the opacity of its edge
+constexpr double tintedGround = 0.12; ///< the opacity of a tinted card's ground
+constexpr double tintedEdge = 0.35;   ///< the opacity of its edge
 
 /// The contrast ratios that people need to read text, and to see a symbol or the edge of a control
 /// (WCAG 2.1, level AA). What is disabled is exempt.
@@ -65,13 +78,14 @@ constexpr int checkBox = 16;
 constexpr int switchWidth = 38;
 constexpr int switchHeight = 22;
 constexpr int disclosureChevron = 14;
-constexpr int disclosureGap = 4; ///< between the chevron or triangle and its text
+constexpr int disclosureBearing = 4; ///< of the chevron in its square, where nothing is drawn
+constexpr int disclosureGap = 4;     ///< between the chevron's square or the triangle and its text
 constexpr int scrollBar = 10;
 constexpr int focusRing = 2; ///< the width of the line around the focused control
 constexpr int focusRoom = 3; ///< what a control keeps free around itself for its ring
 
 // The alert and the about panel, where the platform does not draw its own.
-constexpr int alertWidth = 440;
+constexpr int alertWidth = windowWidth - 2 * pageMargin;
 constexpr int alertPadding = 20;
 constexpr int alertIcon = 48;
 constexpr int alertTextGap = 6;

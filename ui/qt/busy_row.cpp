@@ -1,6 +1,7 @@
 #include "ui/qt/busy_row.hpp"
 
 #include "ui/look.hpp"
+#include "ui/qt/fonts.hpp"
 #include "ui/qt/icon.hpp"
 #include "ui/qt/text_label.hpp"
 
@@ -13,9 +14,9 @@ BusyRow::BusyRow(QWidget* parent)
       text_(new TextLabel(TextStyle::body, TextTone::secondary)) {
     auto* const row = new QHBoxLayout(this);
     row->setContentsMargins(0, 0, 0, 0);
-    row->setSpacing(Look::partGap);
-    auto* const spinner = new IconLabel(Look::rowSymbol);
-    spinner->showSpinner();
+    row->setSpacing(Look::noteIcons.gap);
+    auto* const spinner = new IconLabel(grown(Look::noteIcons.width), lineHeight(TextStyle::body));
+    spinner->showSpinner(grown(Look::spinner));
     row->addWidget(spinner, 0, Qt::AlignTop);
     row->addWidget(text_, 1);
 }

@@ -21,9 +21,10 @@ bool belongs(ButtonKey key, const Button& button) {
 
 } // namespace
 
-ButtonRow::ButtonRow(std::function<void(Action)> perform, QWidget* parent)
+ButtonRow::ButtonRow(std::function<void(Action)> perform, int room, QWidget* parent)
     : QWidget(parent),
       perform_(std::move(perform)),
+      room_(room),
       buttons_(*rowOf(*this)) {}
 
 void ButtonRow::render(const std::vector<Button>& buttons) {
@@ -31,8 +32,14 @@ void ButtonRow::render(const std::vector<Button>& buttons) {
         auto* const button = new PushButton(PushButton::Size::large);
         connect(button, &QAbstractButton::clicked, this,
                 [this, button] { perform_(button->shown().action); });
+        button->setMaximumWidth(room_);
         return button;
     });
+    auto& row = static_cast<QBoxLayout&>(*layout());
+    row.setDirection(QBoxLayout::LeftToRight);
+    if (sizeHint().width() > room_) {
+        row.setDirection(QBoxLayout::TopToBottom);
+    }
 }
 
 void ButtonRow::press(ButtonKey key) {

@@ -13,7 +13,8 @@ namespace kelmar {
 /// The buttons of the footer or of an alert, in a row.
 class ButtonRow : public QWidget {
 public:
-    explicit ButtonRow(std::function<void(Action)> perform, QWidget* parent = nullptr);
+    /// In a row, or one below the other where they don't fit into `room`.
+    ButtonRow(std::function<void(Action)> perform, int room, QWidget* parent = nullptr);
 
     void render(const std::vector<Button>& buttons);
 
@@ -25,6 +26,7 @@ public:
 
 private:
     std::function<void(Action)> perform_;
+    int room_;
     RowList<PushButton> buttons_;
 };
 

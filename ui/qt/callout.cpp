@@ -12,9 +12,9 @@ namespace kelmar {
 
 CalloutBox::CalloutBox(QWidget* parent)
     : QWidget(parent),
-      note_(new NoteRow(Look::rowSymbol, TextStyle::body, TextTone::primary)) {
+      note_(new NoteRow(Look::rowIcons, TextStyle::body, TextTone::primary)) {
     auto* const column = new QVBoxLayout(this);
-    column->setContentsMargins(margins(Look::cardPadding));
+    column->setContentsMargins(margins(Look::cardPadding, Look::partGap));
     column->addWidget(note_);
 }
 

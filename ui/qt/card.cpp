@@ -2,6 +2,7 @@
 
 #include "ui/look.hpp"
 #include "ui/qt/colours.hpp"
+#include "ui/qt/fonts.hpp"
 
 #include <QPainter>
 
@@ -18,13 +19,17 @@ void Card::paintEvent(QPaintEvent* /*event*/) {
 }
 
 void paintCard(QWidget& widget, const QColor& ground, const QColor& edge) {
+    paintCard(widget, QRectF(widget.rect()), ground, edge);
+}
+
+void paintCard(QWidget& widget, const QRectF& place, const QColor& ground, const QColor& edge) {
     constexpr qreal middle = Look::hairline / 2.0; // of the line around the card
     QPainter painter(&widget);
     painter.setRenderHint(QPainter::Antialiasing);
     painter.setBrush(ground);
     painter.setPen(edge);
-    painter.drawRoundedRect(QRectF(widget.rect()).adjusted(middle, middle, -middle, -middle),
-                            Look::cardRadius, Look::cardRadius);
+    painter.drawRoundedRect(place.adjusted(middle, middle, -middle, -middle), Look::cardRadius,
+                            Look::cardRadius);
 }
 
 Hairline::Hairline(int indent, QWidget* parent) : QFrame(parent), indent_(indent) {
@@ -34,6 +39,10 @@ Hairline::Hairline(int indent, QWidget* parent) : QFrame(parent), indent_(indent
 void Hairline::paintEvent(QPaintEvent* /*event*/) {
     QPainter painter(this);
     painter.fillRect(rect().adjusted(indent_, 0, 0, 0), Colours(palette()).hairline);
+}
+
+int rowTextIndent() {
+    return Look::cardPadding + grown(Look::rowIcons.width) + Look::rowIcons.gap;
 }
 
 QVBoxLayout& layOutRow(QWidget& row, bool first, int indent) {

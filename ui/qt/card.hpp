@@ -19,7 +19,10 @@ private:
     QVBoxLayout* rows_;
 };
 
-/// Fills `widget` as a card in these colours.
+/// Draws a card at `place` of `widget` in these colours.
+void paintCard(QWidget& widget, const QRectF& place, const QColor& ground, const QColor& edge);
+
+/// Fills `widget` as a card.
 void paintCard(QWidget& widget, const QColor& ground, const QColor& edge);
 
 /// A line across, from `indent` units after the leading edge on.
@@ -33,6 +36,9 @@ protected:
 private:
     int indent_;
 };
+
+/// Where the texts of a card's rows begin, after the column of their icons.
+int rowTextIndent();
 
 /// The layout of a row of a card, from top to bottom, with a line above the row unless it is the
 /// first one.

@@ -54,7 +54,8 @@ void Colours::compute(const QPalette& palette) {
 }
 
 QColor Colours::tinted(const QColor& tint) const {
-    return mixed(page, tint, Look::tintedGround);
+    // Of the full hue: what is dark enough for a symbol makes mud of a light ground.
+    return mixed(card, QColor::fromHsv(tint.hue(), 255, 255), Look::tintedGround);
 }
 
 QColor Colours::of(Tint tint) const {

@@ -4,6 +4,7 @@
 
 #include <QColor>
 #include <QPalette>
+#include <QWidget>
 
 namespace kelmar {
 
@@ -41,5 +42,11 @@ private:
     Colours() = default;
     void compute(const QPalette& palette);
 };
+
+/// Whether a control is to be drawn as one that can't be pressed. What only lies below a question
+/// is not: the question dims all of it.
+inline bool isGreyed(const QWidget& control) {
+    return control.testAttribute(Qt::WA_ForceDisabled);
+}
 
 } // namespace kelmar

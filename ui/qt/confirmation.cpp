@@ -14,17 +14,33 @@
 
 namespace kelmar {
 
+namespace {
+
+constexpr int inside = Look::alertWidth - 2 * Look::alertPadding;
+
+/// A card that hangs from the top of the page.
+class Sheet : public Card {
+protected:
+    void paintEvent(QPaintEvent* /*event*/) override {
+        const Colours colours(palette());
+        paintCard(*this, QRectF(rect()).adjusted(0, -Look::cardRadius - Look::hairline, 0, 0),
+                  colours.card, colours.hairline);
+    }
+};
+
+} // namespace
+
 ConfirmationOverlay::ConfirmationOverlay(QWidget& page, std::function<void(Action)> perform,
                                          QWidget* parent)
     : QWidget(parent),
       page_(page),
       title_(new TextLabel(TextStyle::sectionTitle, TextTone::primary)),
       message_(new TextLabel(TextStyle::body, TextTone::secondary)),
-      buttons_(new ButtonRow(std::move(perform))) {
-    auto* const box = new Card;
+      buttons_(new ButtonRow(std::move(perform), inside + Look::focusRoom)) {
+    auto* const box = new Sheet;
     box->setFixedWidth(Look::alertWidth);
-    box->rows().setContentsMargins(Look::alertPadding, Look::alertPadding, Look::alertPadding,
-                                   Look::sectionGap);
+    box->rows().setContentsMargins(Look::alertPadding, Look::alertPadding,
+                                   Look::alertPadding - Look::focusRoom, Look::sectionGap);
     box->rows().setSpacing(Look::sectionGap);
     auto* const top = new QHBoxLayout;
     top->setSpacing(Look::sectionGap);
@@ -40,13 +56,13 @@ ConfirmationOverlay::ConfirmationOverlay(QWidget& page, std::function<void(Actio
     box->rows().addLayout(top);
     box->rows().addWidget(buttons_, 0, Qt::AlignRight);
     auto* const column = new QVBoxLayout(this);
-    column->addStretch(2);
+    column->setContentsMargins(0, 0, 0, 0);
     auto* const middle = new QHBoxLayout;
     middle->addStretch();
     middle->addWidget(box);
     middle->addStretch();
     column->addLayout(middle);
-    column->addStretch(3);
+    column->addStretch(1);
     setAccessibleRole(*this, QAccessible::AlertMessage);
     hide();
 }

@@ -12,12 +12,20 @@
 #include "ui/qt/slim_scroll_bar.hpp"
 #include "ui/qt/text_label.hpp"
 
+#include <QScrollBar>
 #include <QVBoxLayout>
 #include <algorithm>
 #include <utility>
 #include <variant>
 
 namespace kelmar {
+
+namespace {
+
+/// Around a block; the column's own margins leave out the room for focus rings.
+constexpr QMargins blockMargins(Look::focusRoom, Look::sectionGap, 0, 0);
+
+} // namespace
 
 ContentWidget::ContentWidget(WindowActions actions, QWidget* parent)
     : QScrollArea(parent),
@@ -27,15 +35,26 @@ ContentWidget::ContentWidget(WindowActions actions, QWidget* parent)
     setWidgetResizable(true);
     setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     setVerticalScrollBar(new SlimScrollBar);
+    // What has been unfolded has its place once the range has grown by it.
+    connect(verticalScrollBar(), &QScrollBar::rangeChanged, this, [this] {
+        if (std::exchange(reveals_, false)) {
+            revealData();
+        }
+    });
     setFocusPolicy(Qt::NoFocus);
     auto* const inside = new QWidget;
     column_ = new QVBoxLayout(inside);
-    column_->setContentsMargins(margins(Look::pageMargin, Look::sectionGap));
-    column_->setSpacing(Look::sectionGap);
+    column_->setContentsMargins(Look::pageMargin - Look::focusRoom, 0, Look::pageMargin,
+                                Look::sectionGap);
+    column_->setSpacing(0);
     for (std::size_t place = 0; place < places; ++place) {
         // A place of its own for every block, so that a late one comes between the right two.
         column_->addLayout(new QVBoxLayout);
     }
+    around_.fill(blockMargins);
+    // Its control's room for the focus ring hangs over, so that the rest stands in line.
+    around(Place::details).setLeft(0);
+    around(Place::text) = margins(Look::noticeMargin, Look::sectionGap);
     column_->addStretch(1);
     setWidget(inside);
     viewport()->setAutoFillBackground(false);
@@ -64,6 +83,22 @@ Block& ContentWidget::block(Place place, const Parts&... parts) {
     return static_cast<Block&>(*widget);
 }
 
+QLayout& ContentWidget::layoutOf(Place place) const {
+    return *column_->itemAt(static_cast<int>(place))->layout();
+}
+
+void ContentWidget::revealData() {
+    const QWidget* const block = blocks_.at(static_cast<std::size_t>(Place::data));
+    if (block == nullptr) {
+        return;
+    }
+    // All of it if there is room, else from its heading on.
+    const int top = block->y() - Look::sectionGap;
+    const int bottom = block->y() + block->height() + Look::sectionGap - viewport()->height();
+    QScrollBar& bar = *verticalScrollBar();
+    bar.setValue(std::max(bar.value(), std::min(top, bottom)));
+}
+
 void ContentWidget::keepReadingOrder(Place made) {
     // Screen readers go through the blocks in their stacking order, and what is made is on top.
     for (auto later = static_cast<std::size_t>(made) + 1; later < places; ++later) {
@@ -75,27 +110,42 @@ void ContentWidget::keepReadingOrder(Place made) {
 
 void ContentWidget::render(const Content& content) {
     used_.clear();
-    fills_ = false;
+    fills_.reset();
     std::visit([this](const auto& each) { renderBlocks(each); }, content);
     for (std::size_t place = 0; place < places; ++place) {
+        const bool used = used_.contains(static_cast<Place>(place));
         if (QWidget* const widget = blocks_.at(place)) {
-            widget->setVisible(used_.contains(static_cast<Place>(place)));
+            widget->setVisible(used);
         }
+        // The margins of a place take room whether anything is shown there or not.
+        layoutOf(static_cast<Place>(place))
+            .setContentsMargins(used ? around_.at(place) : QMargins());
     }
-    // What is left of the page goes to the record of a run while it is unfolded.
-    column_->setStretch(static_cast<int>(Place::details), fills_ ? 1 : 0);
+    // What is left of the page goes to the record of a run while it is unfolded, and to what stands
+    // alone, in the middle of it.
+    for (std::size_t place = 0; place < places; ++place) {
+        column_->setStretch(static_cast<int>(place), fills_ == static_cast<Place>(place) ? 1 : 0);
+    }
     column_->setStretch(places, fills_ ? 0 : 1);
     if (std::exchange(kind_, content.index()) != content.index()) {
         verticalScrollBar()->setValue(0);
+        reveals_ = false;
     }
 }
 
 void ContentWidget::renderBlocks(const ScanningContent& content) {
-    block<BusyRow>(Place::busy).render(content.busy);
+    auto& row = block<BusyRow>(Place::busy);
+    row.render(content.busy);
+    layoutOf(Place::busy).setAlignment(&row, Qt::AlignCenter);
+    fills_ = Place::busy;
 }
 
 void ContentWidget::renderBlocks(const NothingFoundContent& content) {
-    block<TextLabel>(Place::text, TextStyle::body, TextTone::primary).showText(content.text);
+    auto& text = block<TextLabel>(Place::text, TextStyle::body, TextTone::secondary);
+    text.setAlignment(Qt::AlignHCenter);
+    text.showText(content.text);
+    layoutOf(Place::text).setAlignment(&text, Qt::AlignVCenter);
+    fills_ = Place::text;
 }
 
 void ContentWidget::renderBlocks(const ReadyContent& content) {
@@ -103,6 +153,11 @@ void ContentWidget::renderBlocks(const ReadyContent& content) {
         block<CalloutBox>(Place::notice).render(*content.notice);
     }
     block<FoundSectionWidget>(Place::found).render(content.found);
+    // A heading with nothing under it keeps no distance of its own.
+    around(Place::data).setTop(content.found.rows.empty() ? Look::lineGap : Look::sectionGap);
+    const bool unfolded = content.data && !content.data->lists.empty();
+    reveals_ = unfolded && !std::exchange(unfolded_, unfolded);
+    unfolded_ = unfolded;
     if (content.data) {
         block<DataSectionWidget>(Place::data, actions_).render(*content.data);
     }
@@ -110,7 +165,9 @@ void ContentWidget::renderBlocks(const ReadyContent& content) {
 
 void ContentWidget::renderDetails(const Details& details) {
     block<DetailsWidget>(Place::details, actions_.perform).render(details);
-    fills_ = details.shown;
+    if (details.shown) {
+        fills_ = Place::details;
+    }
 }
 
 void ContentWidget::renderBlocks(const WorkingContent& content) {

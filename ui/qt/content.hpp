@@ -6,6 +6,7 @@
 #include <QScrollArea>
 #include <array>
 #include <cstddef>
+#include <optional>
 #include <set>
 
 class QVBoxLayout;
@@ -50,14 +51,24 @@ private:
     template <class Block, class... Parts>
     Block& block(Place place, const Parts&... parts);
 
+    [[nodiscard]] QLayout& layoutOf(Place place) const;
+
+    [[nodiscard]] QMargins& around(Place place) {
+        return around_.at(static_cast<std::size_t>(place));
+    }
+
     void keepReadingOrder(Place made);
+    void revealData();
 
     WindowActions actions_;
     QVBoxLayout* column_;
     std::array<QWidget*, places> blocks_{};
-    std::set<Place> used_; ///< by the page that is being rendered
-    bool fills_ = false;   ///< a block of that page takes all the height that is left
-    std::size_t kind_;     ///< of the content that is shown
+    std::array<QMargins, places> around_; ///< the blocks that are shown
+    std::set<Place> used_;                ///< by the page that is being rendered
+    std::optional<Place> fills_; ///< the block of that page that takes all the height that is left
+    bool unfolded_ = false;      ///< the folders are listed
+    bool reveals_ = false;       ///< they have just been unfolded
+    std::size_t kind_;           ///< of the content that is shown
 };
 
 } // namespace kelmar

@@ -7,6 +7,7 @@
 #include "ui/qt/text_label.hpp"
 #include "ui/qt/toggle_switch.hpp"
 
+#include <algorithm>
 #include <utility>
 
 namespace kelmar {
@@ -64,6 +65,13 @@ void DataSectionWidget::render(const DataSection& section) {
     folders_->render(section.folders);
     lists_.render(section.lists,
                   [this](std::size_t) { return new FolderListWidget(actions_.setSelected); });
+    int widest = 0;
+    for (const FolderListWidget* const list : lists_.rows()) {
+        widest = std::max(widest, list->nameWidth());
+    }
+    for (FolderListWidget* const list : lists_.rows()) {
+        list->setNameWidth(widest);
+    }
 }
 
 } // namespace kelmar

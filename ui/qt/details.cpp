@@ -24,7 +24,10 @@ DetailsWidget::DetailsWidget(const std::function<void(Action)>& perform, QWidget
     auto* const card = static_cast<Card*>(frame_);
     card->rows().setContentsMargins(margins(Look::logSideMargin, Look::logVerticalMargin));
     card->rows().addWidget(log_);
-    column->addWidget(frame_, 1);
+    auto* const framed = new QHBoxLayout;
+    framed->setContentsMargins(Look::focusRoom, 0, 0, 0);
+    framed->addWidget(frame_);
+    column->addLayout(framed, 1);
     frame_->hide();
     connect(toggle_, &QAbstractButton::clicked, this,
             [perform] { perform(Action::toggleDetails); });

@@ -15,8 +15,19 @@ namespace kelmar {
 
 namespace {
 
-constexpr int chevron = Look::disclosureChevron;
-constexpr int textLeft = Look::focusRoom + chevron + Look::disclosureGap;
+int chevronSide() {
+    return grown(Look::disclosureChevron);
+}
+
+/// What is drawn of the chevron begins where the focus ring's room ends.
+int chevronLeft() {
+    return Look::focusRoom - grown(Look::disclosureBearing);
+}
+
+int textLeft() {
+    return chevronLeft() + chevronSide() + Look::disclosureGap;
+}
+
 constexpr int slack = 4; ///< right of the text, and above and below it together
 
 } // namespace
@@ -40,20 +51,22 @@ void Disclosure::render(const Button& button, bool unfolded) {
 
 QSize Disclosure::sizeHint() const {
     const QFontMetrics metrics(font());
-    return {textLeft + metrics.horizontalAdvance(text()) + slack + Look::focusRoom,
+    return {textLeft() + metrics.horizontalAdvance(text()) + slack + Look::focusRoom,
             metrics.height() + slack + 2 * Look::focusRoom};
 }
 
 void Disclosure::paintEvent(QPaintEvent* /*event*/) {
     const Colours colours(palette());
+    const int chevron = chevronSide();
     QPainter painter(this);
     painter.setRenderHint(QPainter::Antialiasing);
-    painter.drawPixmap(Look::focusRoom, (height() - chevron) / 2,
+    painter.drawPixmap(chevronLeft(), (height() - chevron) / 2,
                        symbol(unfolded_ ? "chevron.down" : "chevron.right",
                               isDown() ? colours.text : colours.secondary, chevron,
                               devicePixelRatioF()));
     painter.setPen(colours.text);
-    painter.drawText(rect().adjusted(textLeft, 0, 0, 0), Qt::AlignLeft | Qt::AlignVCenter, text());
+    painter.drawText(rect().adjusted(textLeft(), 0, 0, 0), Qt::AlignLeft | Qt::AlignVCenter,
+                     text());
     if (showsFocus(*this)) {
         constexpr int room = Look::focusRoom;
         paintFocusRing(painter, QRectF(rect()).adjusted(room, room, -room, -room),

@@ -8,21 +8,33 @@
 #include "ui/qt/text_label.hpp"
 
 #include <QVBoxLayout>
+#include <algorithm>
 #include <utility>
 
 namespace kelmar {
 
+namespace {
+
+/// `text` in line with the boxes, whose room for the focus ring is part of the margin.
+QLayout* indented(QWidget* text) {
+    auto* const row = new QHBoxLayout;
+    row->setContentsMargins(Look::focusRoom, 0, 0, 0);
+    row->addWidget(text);
+    return row;
+}
+
+} // namespace
+
 FolderRowWidget::FolderRowWidget(const SelectFolder& select, QWidget* parent)
     : QWidget(parent),
       check_(new CheckBox),
-      summary_(
-          new TextLabel(TextStyle::callout, TextTone::secondary, TextLabel::Overflow::elideMiddle)),
+      summary_(new TextLabel(TextStyle::callout, TextTone::secondary)),
       size_(new SizeLabel) {
     auto* const row = new QHBoxLayout(this);
     row->setContentsMargins(0, 0, 0, 0);
     row->setSpacing(Look::partGap);
     row->addWidget(check_);
-    row->addWidget(summary_, 1, Qt::AlignVCenter);
+    row->addWidget(summary_, 1);
     row->addWidget(size_);
     check_->onRequest([this, select](bool selected) { select(path_, selected); });
 }
@@ -40,6 +52,16 @@ void FolderRowWidget::render(const FolderRow& row) {
     size_->render(row.size);
 }
 
+int FolderRowWidget::nameWidth() const {
+    return check_->sizeHint().width();
+}
+
+void FolderRowWidget::setNameWidth(int width) {
+    if (width != check_->width()) {
+        check_->setFixedWidth(width);
+    }
+}
+
 FolderListWidget::FolderListWidget(SelectFolder select, QWidget* parent)
     : QWidget(parent),
       select_(std::move(select)),
@@ -52,13 +74,29 @@ FolderListWidget::FolderListWidget(SelectFolder select, QWidget* parent)
     column->setSpacing(0);
     column->addWidget(new Hairline);
     auto* const inside = new QVBoxLayout;
-    inside->setContentsMargins(margins(Look::cardPadding));
-    inside->setSpacing(Look::partGap);
-    folders_->setSpacing(Look::lineGap);
-    inside->addWidget(heading_);
+    inside->setContentsMargins(Look::cardPadding - Look::focusRoom, Look::partGap,
+                               Look::cardPadding, Look::partGap);
+    inside->setSpacing(Look::lineGap);
+    // The boxes' room for their focus rings hangs over, so that they stand below the heading.
+    folders_->setSpacing(0);
+    inside->addLayout(indented(heading_));
     inside->addLayout(folders_);
-    inside->addWidget(others_);
+    inside->addLayout(indented(others_));
     column->addLayout(inside);
+}
+
+int FolderListWidget::nameWidth() const {
+    int widest = 0;
+    for (const FolderRowWidget* const row : rows_.rows()) {
+        widest = std::max(widest, row->nameWidth());
+    }
+    return widest;
+}
+
+void FolderListWidget::setNameWidth(int width) {
+    for (FolderRowWidget* const row : rows_.rows()) {
+        row->setNameWidth(width);
+    }
 }
 
 void FolderListWidget::render(const FolderList& list) {

@@ -24,6 +24,10 @@ public:
 
     void render(const FolderRow& row);
 
+    /// What its box and name need, and what they get: the summaries stand in one column.
+    [[nodiscard]] int nameWidth() const;
+    void setNameWidth(int width);
+
 private:
     std::string path_;
     CheckBox* check_;
@@ -37,6 +41,10 @@ public:
     explicit FolderListWidget(SelectFolder select, QWidget* parent = nullptr);
 
     void render(const FolderList& list);
+
+    /// The widest of its rows, and what all of them get.
+    [[nodiscard]] int nameWidth() const;
+    void setNameWidth(int width);
 
 private:
     SelectFolder select_;

@@ -1,7 +1,11 @@
 #include "ui/qt/fonts.hpp"
 
 #include <QFontDatabase>
+#include <QFontInfo>
+#include <QFontMetricsF>
 #include <QGuiApplication>
+#include <algorithm>
+#include <cmath>
 
 namespace kelmar {
 
@@ -31,6 +35,16 @@ QFont fontOf(TextStyle style) {
         font.setWeight(QFont::DemiBold);
     }
     return font;
+}
+
+int lineHeight(TextStyle style) {
+    return static_cast<int>(std::ceil(QFontMetricsF(fontOf(style)).height()));
+}
+
+int grown(int length) {
+    const double factor =
+        static_cast<double>(QFontInfo(QGuiApplication::font()).pixelSize()) / bodyPoints;
+    return static_cast<int>(length * std::max(1.0, factor));
 }
 
 } // namespace kelmar

@@ -7,6 +7,7 @@
 #include <QWidget>
 #include <functional>
 
+class QBoxLayout;
 class QVBoxLayout;
 
 namespace kelmar {
@@ -14,7 +15,8 @@ namespace kelmar {
 class BusyRow;
 class ButtonRow;
 
-/// Notes or a spinner on the leading side, buttons on the trailing one.
+/// Notes or a spinner on the leading side, buttons on the trailing one; below them where the two do
+/// not fit side by side.
 class FooterWidget : public QWidget {
 public:
     explicit FooterWidget(const std::function<void(Action)>& perform, QWidget* parent = nullptr);
@@ -24,7 +26,11 @@ public:
     [[nodiscard]] ButtonRow& buttons() const { return *buttons_; }
 
 private:
-    QVBoxLayout* leading_;
+    /// Of everything beside one another, each note in one line.
+    [[nodiscard]] int neededWidth(const Footer& footer) const;
+
+    QBoxLayout* row_;
+    QVBoxLayout* noted_;
     RowList<NoteRow> notes_;
     BusyRow* busy_;
     ButtonRow* buttons_;

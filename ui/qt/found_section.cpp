@@ -1,6 +1,7 @@
 #include "ui/qt/found_section.hpp"
 
 #include "ui/look.hpp"
+#include "ui/qt/fonts.hpp"
 #include "ui/qt/icon.hpp"
 #include "ui/qt/margins.hpp"
 #include "ui/qt/text_label.hpp"
@@ -11,10 +12,10 @@ namespace kelmar {
 
 FoundRowWidget::FoundRowWidget(bool first, QWidget* parent)
     : QWidget(parent),
-      icon_(new IconLabel(Look::rowIcon)),
+      icon_(new IconLabel(grown(Look::rowIcons.width))),
       title_(new TextLabel(TextStyle::body, TextTone::primary)),
       detail_(new TextLabel(TextStyle::callout, TextTone::secondary)) {
-    QVBoxLayout& column = layOutRow(*this, first, Look::foundTextIndent);
+    QVBoxLayout& column = layOutRow(*this, first, rowTextIndent());
     auto* const row = new QHBoxLayout;
     row->setContentsMargins(margins(Look::cardPadding, Look::rowPadding));
     row->setSpacing(Look::columnGap);
@@ -29,7 +30,7 @@ FoundRowWidget::FoundRowWidget(bool first, QWidget* parent)
 
 void FoundRowWidget::render(const FoundRow& row) {
     if (const auto* const symbol = std::get_if<FoundRow::Symbol>(&row.icon)) {
-        icon_->showSymbol(symbol->name, Tint::secondary, Look::rowSymbol);
+        icon_->showSymbol(symbol->name, Tint::secondary, grown(Look::rowSymbol));
     } else {
         // No desktop here knows the bundle's own icon; this is the product's.
         icon_->showPicture("kelmar-app");
@@ -43,6 +44,7 @@ FoundSectionWidget::FoundSectionWidget(QWidget* parent) : Section(parent), rows_
 void FoundSectionWidget::render(const FoundSection& section) {
     renderTitle(section.title);
     card().setVisible(!section.rows.empty());
+    title().setTone(section.rows.empty() ? TextTone::secondary : TextTone::primary);
     rows_.render(section.rows, [](std::size_t index) { return new FoundRowWidget(index == 0); });
 }
 

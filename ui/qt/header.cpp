@@ -2,6 +2,7 @@
 
 #include "ui/look.hpp"
 #include "ui/qt/accessibility.hpp"
+#include "ui/qt/fonts.hpp"
 #include "ui/qt/icon.hpp"
 #include "ui/qt/margins.hpp"
 #include "ui/qt/text_label.hpp"
@@ -16,7 +17,7 @@ HeaderWidget::HeaderWidget(QWidget* parent)
       subtitle_(new TextLabel(TextStyle::body, TextTone::secondary)),
       announcer_(new QWidget(this)) {
     auto* const row = new QHBoxLayout(this);
-    row->setContentsMargins(margins(Look::pageMargin, Look::sectionGap));
+    row->setContentsMargins(margins(Look::pageMargin, Look::headerPadding));
     row->setSpacing(Look::sectionGap);
     auto* const icon = new IconLabel(Look::headerIcon);
     icon->showPicture("kelmar-uninstaller");
@@ -29,8 +30,8 @@ HeaderWidget::HeaderWidget(QWidget* parent)
     row->addWidget(icon, 0, Qt::AlignVCenter);
     row->addLayout(texts, 1);
     // Room for a subtitle of two lines, so that the page below does not move from phase to phase.
-    setMinimumHeight(2 * Look::sectionGap + Look::lineGap + QFontMetrics(title_->font()).height() +
-                     2 * QFontMetrics(subtitle_->font()).lineSpacing());
+    setMinimumHeight(2 * Look::headerPadding + lineHeight(TextStyle::title) + Look::lineGap +
+                     2 * lineHeight(TextStyle::body));
     setAccessibleRole(*title_, QAccessible::Heading);
     setAccessibleRole(*announcer_, QAccessible::Notification);
     announcer_->setGeometry(0, 0, 1, 1);

@@ -18,8 +18,8 @@ constexpr int spokes = 8;
 
 } // namespace
 
-IconLabel::IconLabel(int side, QWidget* parent) : QLabel(parent), side_(side) {
-    setFixedSize(side, side);
+IconLabel::IconLabel(int width, int height, QWidget* parent) : QLabel(parent) {
+    setFixedSize(width, height);
 }
 
 void IconLabel::become(Kind kind, const std::string& name, Tint tint, int size) {
@@ -39,11 +39,11 @@ void IconLabel::showSymbol(const std::string& name, Tint tint, int size) {
 }
 
 void IconLabel::showPicture(const std::string& name) {
-    become(Kind::picture, name, Tint::secondary, side_);
+    become(Kind::picture, name, Tint::secondary, height());
 }
 
-void IconLabel::showSpinner() {
-    become(Kind::spinner, "", Tint::secondary, Look::spinner);
+void IconLabel::showSpinner(int size) {
+    become(Kind::spinner, "", Tint::secondary, size);
 }
 
 void IconLabel::turnWhileSeen() {
@@ -101,7 +101,7 @@ void IconLabel::paintSpinner(QPainter& painter) const {
         if (behind < 0) {
             behind += spokes;
         }
-        colour.setAlphaF(static_cast<float>(std::max(0.12, 0.75 - behind * 0.63 / spokes * 1.4)));
+        colour.setAlphaF(static_cast<float>(std::max(0.25, 0.9 - behind * 0.65 / spokes * 1.4)));
         painter.setPen(QPen(colour, size_ / 9.0, Qt::SolidLine, Qt::RoundCap));
         painter.drawLine(QPointF(0, -size_ * 0.26), QPointF(0, -size_ * 0.45));
         painter.rotate(360.0 / spokes);

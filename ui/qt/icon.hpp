@@ -15,12 +15,14 @@ namespace kelmar {
 /// nothing if that is nothing. Its timer runs only while a spinner can be seen.
 class IconLabel : public QLabel {
 public:
-    /// A square of `side` units, with what is shown in its middle.
-    explicit IconLabel(int side, QWidget* parent = nullptr);
+    /// What is shown stands in the middle.
+    IconLabel(int width, int height, QWidget* parent = nullptr);
+
+    explicit IconLabel(int side, QWidget* parent = nullptr) : IconLabel(side, side, parent) {}
 
     void showSymbol(const std::string& name, Tint tint, int size);
     void showPicture(const std::string& name);
-    void showSpinner();
+    void showSpinner(int size);
 
     [[nodiscard]] const std::string& shown() const { return name_; }
 
@@ -44,7 +46,6 @@ private:
     void turnWhileSeen();
     void paintSpinner(QPainter& painter) const;
 
-    int side_;
     Kind kind_ = Kind::nothing;
     std::string name_;
     Tint tint_ = Tint::secondary;

@@ -2,6 +2,7 @@
 
 #include "ui/look.hpp"
 #include "ui/qt/menu.hpp"
+#include "ui/qt/menu_bar.hpp"
 #include "ui/qt/page.hpp"
 #include "ui/qt/symbols.hpp"
 #include "ui/texts.hpp"
@@ -35,7 +36,10 @@ MainWindow::MainWindow(const WindowActions& actions, const std::function<void(Me
                    Qt::WindowCloseButtonHint);
     setContextMenuPolicy(Qt::NoContextMenu);
     setCentralWidget(page_);
-    fillMenuBar(*menuBar(), mainMenu(), menu);
+    auto* const bar = new MenuBar;
+    setMenuBar(bar);
+    fillMenuBar(*bar, mainMenu(), menu);
+    page_->observeAsking([bar](bool asking) { bar->setDimmed(asking); });
     setFixedSize(contentSize);
 }
 

@@ -1,5 +1,7 @@
 #include "ui/qt/menu.hpp"
 
+#include "ui/qt/selectable_text.hpp"
+
 #include <QApplication>
 #include <QMenu>
 #include <QPlainTextEdit>
@@ -13,13 +15,19 @@ QPlainTextEdit* focusedText() {
     return qobject_cast<QPlainTextEdit*>(QApplication::focusWidget());
 }
 
+/// The text of the page that has the focus, where that is not one of many lines.
+SelectableText* focusedLabel() {
+    return dynamic_cast<SelectableText*>(QApplication::focusWidget());
+}
+
 /// Whether there is anything that answers to the action now.
 bool isAnswered(MenuAction action) {
     switch (action) {
     case MenuAction::copy:
-        return focusedText() != nullptr && focusedText()->textCursor().hasSelection();
+        return (focusedText() != nullptr && focusedText()->textCursor().hasSelection()) ||
+               (focusedLabel() != nullptr && !focusedLabel()->selected().isEmpty());
     case MenuAction::selectAll:
-        return focusedText() != nullptr;
+        return focusedText() != nullptr || focusedLabel() != nullptr;
     case MenuAction::hideOthers:
     case MenuAction::showAll:
         // Other programs' windows are theirs here, and a desktop brings a hidden one back itself.
@@ -41,7 +49,12 @@ void perform(MenuAction action, const std::function<void(MenuAction)>& other) {
     if (!isAnswered(action)) {
         return;
     }
-    if (action == MenuAction::copy) {
+    SelectableText* const label = focusedLabel();
+    if (action == MenuAction::copy && label != nullptr) {
+        label->copy();
+    } else if (action == MenuAction::selectAll && label != nullptr) {
+        label->selectAll();
+    } else if (action == MenuAction::copy) {
         focusedText()->copy();
     } else if (action == MenuAction::selectAll) {
         focusedText()->selectAll();

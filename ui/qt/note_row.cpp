@@ -1,22 +1,26 @@
 #include "ui/qt/note_row.hpp"
 
 #include "ui/look.hpp"
+#include "ui/qt/fonts.hpp"
 #include "ui/qt/icon.hpp"
+#include "ui/qt/tool_tip.hpp"
 
 #include <QHBoxLayout>
+#include <QHelpEvent>
+#include <algorithm>
 
 namespace kelmar {
 
-NoteRow::NoteRow(int size, TextStyle style, TextTone tone, QWidget* parent)
+NoteRow::NoteRow(const Look::IconColumn& icons, TextStyle style, TextTone tone, QWidget* parent)
     : QWidget(parent),
-      size_(size),
-      symbol_(new IconLabel(size)),
+      size_(grown(icons.icon)),
+      symbol_(new IconLabel(grown(icons.width), std::max(size_, lineHeight(style)))),
       text_(new TextLabel(style, tone)) {
     auto* const row = new QHBoxLayout(this);
     row->setContentsMargins(0, 0, 0, 0);
-    row->setSpacing(Look::partGap);
+    row->setSpacing(icons.gap);
     row->addWidget(symbol_, 0, Qt::AlignTop);
-    row->addWidget(text_, 1, Qt::AlignVCenter);
+    row->addWidget(text_, 1);
 }
 
 void NoteRow::showNote(const std::string& symbol, Tint tint, const std::string& text) {
@@ -26,10 +30,17 @@ void NoteRow::showNote(const std::string& symbol, Tint tint, const std::string& 
 
 void NoteRow::render(const FooterNote& note) {
     showNote(note.symbol, Tint::secondary, note.text);
-    // As text and not as markup; it wraps only as markup.
     const QString help = QString::fromStdString(note.help);
-    setToolTip(help.toHtmlEscaped());
+    setToolTip(help);
     text_->setAccessibleDescription(help);
+}
+
+bool NoteRow::event(QEvent* event) {
+    if (event->type() == QEvent::ToolTip) {
+        showToolTip(*this, static_cast<const QHelpEvent&>(*event));
+        return true;
+    }
+    return QWidget::event(event);
 }
 
 void NoteRow::render(const SummaryRow& row) {

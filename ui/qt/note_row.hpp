@@ -1,5 +1,6 @@
 #pragma once
 
+#include "ui/look.hpp"
 #include "ui/page.hpp"
 #include "ui/qt/text_label.hpp"
 
@@ -13,11 +14,15 @@ class IconLabel;
 class NoteRow : public QWidget {
 public:
     /// `size` is the symbol's, in units.
-    NoteRow(int size, TextStyle style, TextTone tone, QWidget* parent = nullptr);
+    NoteRow(const Look::IconColumn& icons, TextStyle style, TextTone tone,
+            QWidget* parent = nullptr);
 
     void render(const FooterNote& note);
     void render(const SummaryRow& row);
     void render(const Callout& callout);
+
+protected:
+    bool event(QEvent* event) override;
 
 private:
     void showNote(const std::string& symbol, Tint tint, const std::string& text);

@@ -93,6 +93,7 @@ void PageWidget::renderAlert(const std::optional<Confirmation>& confirmation) {
     } else if (alert_ != nullptr) {
         alert_->dismiss();
     }
+    asking_(confirmation.has_value());
 }
 
 void PageWidget::orderFocus() {

@@ -5,7 +5,9 @@
 
 #include <QWidget>
 #include <cstddef>
+#include <functional>
 #include <optional>
+#include <utility>
 
 namespace kelmar {
 
@@ -20,6 +22,9 @@ public:
     explicit PageWidget(WindowActions actions, QWidget* parent = nullptr);
 
     void render(const Page& page);
+
+    /// `observer` is told when a question comes and when it goes. One observer.
+    void observeAsking(std::function<void(bool asking)> observer) { asking_ = std::move(observer); }
 
     /// How often `render` has changed anything.
     [[nodiscard]] std::size_t changes() const { return changes_; }
@@ -39,6 +44,7 @@ private:
     FooterWidget* footer_;
     ConfirmationOverlay* alert_ = nullptr; ///< made for the first question
     std::optional<Page> shown_;
+    std::function<void(bool)> asking_ = [](bool) {};
     std::size_t changes_ = 0;
 };
 

@@ -1,6 +1,7 @@
 #include "ui/qt/progress_section.hpp"
 
 #include "ui/look.hpp"
+#include "ui/qt/fonts.hpp"
 #include "ui/qt/icon.hpp"
 #include "ui/qt/margins.hpp"
 #include "ui/qt/text_label.hpp"
@@ -9,22 +10,22 @@ namespace kelmar {
 
 ProgressRowWidget::ProgressRowWidget(bool first, QWidget* parent)
     : QWidget(parent),
-      icon_(new IconLabel(Look::rowSymbol)),
+      icon_(new IconLabel(grown(Look::rowIcons.width))),
       title_(new TextLabel(TextStyle::body, TextTone::primary)) {
-    QVBoxLayout& column = layOutRow(*this, first, Look::stageTextIndent);
+    QVBoxLayout& column = layOutRow(*this, first, rowTextIndent());
     auto* const row = new QHBoxLayout;
-    row->setContentsMargins(margins(Look::cardPadding));
+    row->setContentsMargins(margins(Look::cardPadding, Look::rowPadding));
     row->setSpacing(Look::columnGap);
-    row->addWidget(icon_, 0, Qt::AlignTop);
-    row->addWidget(title_, 1, Qt::AlignVCenter);
+    row->addWidget(icon_, 0, Qt::AlignVCenter);
+    row->addWidget(title_, 1);
     column.addLayout(row);
 }
 
 void ProgressRowWidget::render(const ProgressRow& row) {
     if (row.icon.symbol) {
-        icon_->showSymbol(*row.icon.symbol, row.icon.tint, Look::rowSymbol);
+        icon_->showSymbol(*row.icon.symbol, row.icon.tint, grown(Look::rowSymbol));
     } else {
-        icon_->showSpinner();
+        icon_->showSpinner(grown(Look::spinner));
     }
     icon_->setAccessibleName(QString::fromStdString(row.icon.label));
     title_->showText(row.title);

@@ -41,18 +41,33 @@ void PushButton::render(const Button& button) {
     update();
 }
 
+Look::Padding PushButton::padding() const {
+    return size_ == Size::large ? Look::largeButton : Look::regularButton;
+}
+
+int PushButton::textRoom() const {
+    return maximumWidth() - 2 * (padding().sides + Look::focusRoom);
+}
+
+bool PushButton::wraps() const {
+    return QFontMetrics(font()).horizontalAdvance(text()) > textRoom();
+}
+
 QSize PushButton::sizeHint() const {
     const QFontMetrics metrics(font());
-    const bool large = size_ == Size::large;
-    const Look::Padding padding = large ? Look::largeButton : Look::regularButton;
-    const int width = metrics.horizontalAdvance(text()) + 2 * padding.sides;
-    return {std::max(width, large ? Look::buttonWidth : 0) + 2 * Look::focusRoom,
-            metrics.height() + 2 * padding.ends + 2 * Look::focusRoom};
+    const QSize words = wraps() ? metrics
+                                      .boundingRect(QRect(0, 0, textRoom(), QWIDGETSIZE_MAX),
+                                                    Qt::AlignCenter | Qt::TextWordWrap, text())
+                                      .size()
+                                : QSize(metrics.horizontalAdvance(text()), metrics.height());
+    const int least = size_ == Size::large ? Look::buttonWidth : 0;
+    return {std::max(words.width() + 2 * padding().sides, least) + 2 * Look::focusRoom,
+            words.height() + 2 * padding().ends + 2 * Look::focusRoom};
 }
 
 void PushButton::paintEvent(QPaintEvent* /*event*/) {
     const Colours colours(palette());
-    const bool filled = isReturns(shown_) && isEnabled();
+    const bool filled = isReturns(shown_) && !isGreyed(*this);
     QPainter painter(this);
     painter.setRenderHint(QPainter::Antialiasing);
     constexpr qreal edge = Look::focusRoom + Look::hairline / 2.0; // the middle of the face's edge
@@ -67,11 +82,14 @@ void PushButton::paintEvent(QPaintEvent* /*event*/) {
     painter.setPen(filled ? colours.accent.darker(112) : colours.hairline);
     painter.drawRoundedRect(face, Look::buttonRadius, Look::buttonRadius);
 
-    painter.setPen(!isEnabled()         ? colours.disabled
+    painter.setPen(isGreyed(*this)      ? colours.disabled
                    : filled             ? colours.onAccent
                    : shown_.destructive ? colours.red
                                         : colours.text);
-    painter.drawText(rect(), Qt::AlignCenter, text());
+    // Wrapped only where it has to be: at broken scales a line may be wider than measured.
+    const int flags = Qt::AlignCenter | (wraps() ? Qt::TextWordWrap : 0);
+    const int sides = padding().sides;
+    painter.drawText(wraps() ? rect().adjusted(sides, 0, -sides, 0) : rect(), flags, text());
     if (showsFocus(*this)) {
         paintFocusRing(painter, face, Look::buttonRadius, colours);
     }

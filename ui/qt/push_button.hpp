@@ -1,5 +1,6 @@
 #pragma once
 
+#include "ui/look.hpp"
 #include "ui/page.hpp"
 
 #include <QPushButton>
@@ -29,6 +30,10 @@ protected:
     void paintEvent(QPaintEvent* event) override;
 
 private:
+    [[nodiscard]] Look::Padding padding() const;
+    [[nodiscard]] int textRoom() const;
+    [[nodiscard]] bool wraps() const; ///< its text is wider than the button may be
+
     Size size_;
     Button shown_;
 };

@@ -1,7 +1,10 @@
 #include "ui/qt/result_sections.hpp"
 
 #include "ui/look.hpp"
+#include "ui/qt/fonts.hpp"
+#include "ui/qt/icon.hpp"
 #include "ui/qt/margins.hpp"
+#include "ui/qt/selectable_text.hpp"
 #include "ui/qt/text_label.hpp"
 
 namespace kelmar {
@@ -17,21 +20,28 @@ SummarySectionWidget::SummarySectionWidget(QWidget* parent)
 
 void SummarySectionWidget::render(const std::vector<SummaryRow>& rows) {
     rows_.render(rows, [](std::size_t) {
-        return new NoteRow(Look::rowSymbol, TextStyle::body, TextTone::primary);
+        return new NoteRow(Look::rowIcons, TextStyle::body, TextTone::primary);
     });
 }
 
 ProblemRowWidget::ProblemRowWidget(bool first, QWidget* parent)
     : QWidget(parent),
-      path_(new TextLabel(TextStyle::body, TextTone::primary)),
-      reason_(new TextLabel(TextStyle::callout, TextTone::secondary)) {
-    QVBoxLayout& column = layOutRow(*this, first, Look::cardPadding);
+      path_(new SelectableText(TextStyle::body, TextTone::primary)),
+      reason_(new SelectableText(TextStyle::callout, TextTone::secondary)) {
+    QVBoxLayout& column = layOutRow(*this, first, rowTextIndent());
+    auto* const row = new QHBoxLayout;
+    row->setContentsMargins(margins(Look::cardPadding, Look::partGap));
+    row->setSpacing(Look::rowIcons.gap);
+    // The sign at every item's beginning makes a list of what is else a wall of paths.
+    auto* const sign = new IconLabel(grown(Look::rowIcons.width), lineHeight(TextStyle::body));
+    sign->showSymbol("exclamationmark.circle", Tint::orange, grown(Look::noteSymbol));
     auto* const texts = new QVBoxLayout;
-    texts->setContentsMargins(margins(Look::cardPadding, Look::rowPadding));
     texts->setSpacing(Look::textGap);
     texts->addWidget(path_);
     texts->addWidget(reason_);
-    column.addLayout(texts);
+    row->addWidget(sign, 0, Qt::AlignTop);
+    row->addLayout(texts, 1);
+    column.addLayout(row);
 }
 
 void ProblemRowWidget::render(const ProblemRow& row) {

@@ -9,6 +9,8 @@
 
 namespace kelmar {
 
+class SelectableText;
+
 /// What a finished run did and kept.
 class SummarySectionWidget : public Section {
 public:
@@ -28,8 +30,8 @@ public:
     void render(const ProblemRow& row);
 
 private:
-    TextLabel* path_;
-    TextLabel* reason_;
+    SelectableText* path_;
+    SelectableText* reason_;
 };
 
 /// What could not be removed.

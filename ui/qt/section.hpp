@@ -17,6 +17,8 @@ public:
 protected:
     void renderTitle(const SectionTitle& title);
 
+    [[nodiscard]] TextLabel& title() const { return *title_; }
+
     [[nodiscard]] Card& card() { return *card_; }
 
     /// Below the card.

@@ -51,7 +51,7 @@ QSize SizeLabel::sizeHint() const {
 void SizeLabel::paintEvent(QPaintEvent* /*event*/) {
     QPainter painter(this);
     const Colours colours(palette());
-    painter.setPen(isEnabled() ? colours.secondary : colours.disabled);
+    painter.setPen(colours.secondary);
     const QFontMetrics metrics(font());
     int left = width() - sizeHint().width();
     for (const QChar character : text()) {

@@ -12,7 +12,7 @@ set(qt_sources
     colours.cpp
     confirmation.cpp
     content.cpp
-  contrast.cpp
+    contrast.cpp
     data_section.cpp
     details.cpp
     disclosure.cpp
@@ -27,15 +27,18 @@ set(qt_sources
     log_view.cpp
     main_window.cpp
     menu.cpp
+    menu_bar.cpp
     note_row.cpp
     page.cpp
     progress_section.cpp
     push_button.cpp
     result_sections.cpp
     section.cpp
+    selectable_text.cpp
     size_label.cpp
     slim_scroll_bar.cpp
     symbols.cpp
     text_label.cpp
-    toggle_switch.cpp)
+    toggle_switch.cpp
+    tool_tip.cpp)
 list(TRANSFORM qt_sources PREPEND ${CMAKE_CURRENT_LIST_DIR}/)

@@ -1,13 +1,14 @@
 #include "ui/qt/text_label.hpp"
 
-#include "system/text/harmless_text.hpp"
+#include "ui/drawn_text.hpp"
 #include "ui/qt/colours.hpp"
 #include "ui/qt/fonts.hpp"
+#include "ui/qt/tool_tip.hpp"
 
 #include <QAbstractButton>
+#include <QHelpEvent>
 #include <QMouseEvent>
 #include <QPainter>
-#include <QTextLayout>
 #include <algorithm>
 #include <cmath>
 
@@ -16,10 +17,13 @@ namespace kelmar {
 namespace {
 
 constexpr int leastWidth = 16; ///< that a layout may give a label
+constexpr int elidedLines = 2; ///< what is longer loses its middle
 
-/// Lays `text` out in lines of `width`; the height that they take.
-double layOut(QTextLayout& layout, double width) {
-    QTextOption option;
+} // namespace
+
+/// Lays `layout` out in lines of `width`; the height that they take.
+double TextLabel::layOut(QTextLayout& layout, double width) const {
+    QTextOption option(alignment());
     option.setWrapMode(QTextOption::WrapAtWordBoundaryOrAnywhere);
     option.setTextDirection(Qt::LeftToRight); // a sentence that names a file is still a sentence
     layout.setTextOption(option);
@@ -33,8 +37,6 @@ double layOut(QTextLayout& layout, double width) {
     layout.endLayout();
     return height;
 }
-
-} // namespace
 
 TextLabel::TextLabel(TextStyle style, TextTone tone, Overflow overflow, QWidget* parent)
     : QLabel(parent),
@@ -61,17 +63,30 @@ void TextLabel::nameFor(QAbstractButton* button) {
     setBuddy(button);
 }
 
+void TextLabel::setTone(TextTone tone) {
+    if (tone != tone_) {
+        tone_ = tone;
+        update();
+    }
+}
+
 QString TextLabel::drawn() const {
-    return QString::fromStdString(harmlessText(text().toStdString()));
+    return QString::fromStdString(drawnText(text().toStdString()));
 }
 
 QSize TextLabel::sizeHint() const {
     const QFontMetrics metrics(font());
-    return {metrics.horizontalAdvance(drawn()) + 1, metrics.height()};
+    // As the lines are measured, which at broken scales is not as whole units have it.
+    QTextLayout layout(drawn(), font());
+    const double height = layOut(layout, QWIDGETSIZE_MAX);
+    const int lines = overflow_ == Overflow::elideMiddle ? elidedLines : 1;
+    return {static_cast<int>(std::ceil(layout.maximumWidth())) + 1,
+            lines * std::max(static_cast<int>(height), metrics.height())};
 }
 
 QSize TextLabel::minimumSizeHint() const {
-    return {leastWidth, QFontMetrics(font()).height()};
+    return {leastWidth, overflow_ == Overflow::elideMiddle ? sizeHint().height()
+                                                           : QFontMetrics(font()).height()};
 }
 
 bool TextLabel::hasHeightForWidth() const {
@@ -91,26 +106,59 @@ int TextLabel::heightForWidth(int width) const {
     return measuredHeight_;
 }
 
+int TextLabel::lines(const QString& text, int width) const {
+    QTextLayout layout(text, font());
+    layOut(layout, width);
+    return layout.lineCount();
+}
+
+QString TextLabel::elided() const {
+    const QString whole = drawn();
+    const QFontMetrics metrics(font());
+    QString shown = whole;
+    // A line that breaks at a word leaves some of its width unused.
+    const int step = std::max(1, width() / 16);
+    for (int room = elidedLines * width(); room > step && lines(shown, width()) > elidedLines;
+         room -= step) {
+        shown = metrics.elidedText(whole, Qt::ElideMiddle, room);
+    }
+    return shown;
+}
+
 void TextLabel::paintEvent(QPaintEvent* /*event*/) {
     const Colours colours(palette());
     QPainter painter(this);
-    painter.setPen(!isEnabled()                 ? colours.disabled
-                   : tone_ == TextTone::primary ? colours.text
-                                                : colours.secondary);
-    if (overflow_ == Overflow::elideMiddle) {
-        const QFontMetrics metrics(font());
-        painter.drawText(rect(), Qt::AlignLeft | Qt::AlignVCenter | Qt::TextForceLeftToRight,
-                         metrics.elidedText(drawn(), Qt::ElideMiddle, width()));
-        return;
-    }
-    QTextLayout layout(drawn(), font());
+    painter.setPen(tone_ == TextTone::primary ? colours.text : colours.secondary);
+    const bool elides = overflow_ == Overflow::elideMiddle;
+    QTextLayout layout(elides ? elided() : drawn(), font());
     const double height = layOut(layout, width());
-    layout.draw(&painter, {0, std::max(0.0, std::floor((rect().height() - height) / 2))});
+    const double above = elides ? 0 : std::max(0.0, std::floor((rect().height() - height) / 2));
+    layout.draw(&painter, {0, above}, selections());
+}
+
+int TextLabel::placeAt(const QPoint& point) const {
+    QTextLayout layout(drawn(), font());
+    const double above = std::max(0.0, std::floor((rect().height() - layOut(layout, width())) / 2));
+    for (int number = 0; number < layout.lineCount(); ++number) {
+        const QTextLine line = layout.lineAt(number);
+        if (point.y() - above < line.y() + line.height() || number + 1 == layout.lineCount()) {
+            return line.xToCursor(point.x());
+        }
+    }
+    return 0;
 }
 
 void TextLabel::resizeEvent(QResizeEvent* event) {
     QLabel::resizeEvent(event);
     explainElision();
+}
+
+bool TextLabel::event(QEvent* event) {
+    if (event->type() == QEvent::ToolTip && !toolTip().isEmpty()) {
+        showToolTip(*this, static_cast<const QHelpEvent&>(*event));
+        return true;
+    }
+    return QLabel::event(event);
 }
 
 void TextLabel::changeEvent(QEvent* event) {
@@ -122,7 +170,7 @@ void TextLabel::changeEvent(QEvent* event) {
 
 void TextLabel::explainElision() {
     if (overflow_ == Overflow::elideMiddle) {
-        setToolTip(sizeHint().width() > width() + 1 ? drawn().toHtmlEscaped() : QString());
+        setToolTip(lines(drawn(), width()) > elidedLines ? text() : QString());
     }
 }
 

@@ -3,6 +3,7 @@
 #include "ui/look.hpp"
 
 #include <QLabel>
+#include <QTextLayout>
 #include <string>
 
 class QAbstractButton;
@@ -16,7 +17,7 @@ class TextLabel : public QLabel {
 public:
     enum class Overflow {
         wrap,
-        elideMiddle,
+        elideMiddle, ///< of what takes more than two lines; there is room for two in any case
     };
 
     TextLabel(TextStyle style, TextTone tone, Overflow overflow = Overflow::wrap,
@@ -24,6 +25,8 @@ public:
 
     /// Draws nothing anew when `text` is what is shown already.
     void showText(const std::string& text);
+
+    void setTone(TextTone tone);
 
     /// A press on the label presses `button`, which it names for people who can't see.
     void nameFor(QAbstractButton* button);
@@ -34,13 +37,25 @@ public:
     [[nodiscard]] int heightForWidth(int width) const override;
 
 protected:
+    bool event(QEvent* event) override;
     void paintEvent(QPaintEvent* event) override;
     void resizeEvent(QResizeEvent* event) override;
     void changeEvent(QEvent* event) override;
     void mouseReleaseEvent(QMouseEvent* event) override;
 
-private:
+    /// The text as it is drawn.
     [[nodiscard]] QString drawn() const;
+
+    /// The place in `drawn` of the character at `point`.
+    [[nodiscard]] int placeAt(const QPoint& point) const;
+
+    /// What is selected of `drawn`.
+    [[nodiscard]] virtual QList<QTextLayout::FormatRange> selections() const { return {}; }
+
+private:
+    double layOut(QTextLayout& layout, double width) const;
+    [[nodiscard]] QString elided() const;
+    [[nodiscard]] int lines(const QString& text, int width) const;
     void explainElision();
 
     TextTone tone_;

@@ -31,7 +31,9 @@ void ToggleSwitch::paintEvent(QPaintEvent* /*event*/) {
     const QRectF track(Look::focusRoom, Look::focusRoom, Look::switchWidth, Look::switchHeight);
     const bool on = isChecked();
     painter.setPen(Qt::NoPen);
-    painter.setBrush(on ? colours.switchedOn : colours.outline);
+    painter.setBrush(isGreyed(*this) ? colours.disabled
+                     : on            ? colours.switchedOn
+                                     : colours.outline);
     painter.drawRoundedRect(track, radius, radius);
     const qreal left = on ? track.right() - knobInset - knob : track.left() + knobInset;
     painter.setBrush(isDown() ? QColor(0xe8, 0xe8, 0xe8) : QColor(Qt::white));

@@ -105,7 +105,7 @@ TEST_F(Controls, HelpIsShownAsText) {
     render(page);
     const QWidget* const note =
         seen<TextLabel>("Asks for an administrator's password")->parentWidget();
-    EXPECT_EQ(note->toolTip(), "&lt;b&gt;Why&lt;/b&gt; &amp; how");
+    EXPECT_EQ(note->toolTip(), "<b>Why</b> & how");
 }
 
 } // namespace

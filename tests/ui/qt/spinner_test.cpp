@@ -1,4 +1,5 @@
 #include "tests/ui/qt/page_fixture.hpp"
+#include "ui/look.hpp"
 #include "ui/qt/icon.hpp"
 
 namespace kelmar {
@@ -48,7 +49,7 @@ TEST_F(Spinner, BecomesACheckmarkWhenItsStageIsDone) {
 
 TEST_F(Spinner, LooksDifferentAMomentLater) {
     IconLabel spinner(20);
-    spinner.showSpinner();
+    spinner.showSpinner(Look::spinner);
     spinner.show();
     QTest::qWait(20);
     const QImage before = spinner.grab().toImage();
