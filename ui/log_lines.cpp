@@ -1,10 +1,47 @@
 #include "ui/log_lines.hpp"
 
+#include "system/text/harmless_text.hpp"
+
 #include <algorithm>
-#include <iterator>
-#include <utility>
 
 namespace kelmar {
+
+class LogLines::Text {
+public:
+    Text() = default;
+
+    /// The first `count` lines of another.
+    Text(const Text& other, std::size_t count) {
+        for (std::size_t index = 0; index < count; ++index) {
+            append(other[index]);
+        }
+    }
+
+    [[nodiscard]] std::size_t size() const { return lines_.size(); }
+
+    [[nodiscard]] std::string_view operator[](std::size_t index) const { return lines_[index]; }
+
+    void append(std::string_view line) {
+        if (line.size() > room_) {
+            room_ = std::max(blockSize, line.size());
+            // Nothing moves when a block is added: lines look into the blocks.
+            blocks_.push_back(std::make_unique<char[]>(room_)); // NOLINT(*-avoid-c-arrays)
+            free_ = blocks_.back().get();
+        }
+        std::copy(line.begin(), line.end(), free_);
+        lines_.emplace_back(free_, line.size());
+        free_ += line.size();
+        room_ -= line.size();
+    }
+
+private:
+    static constexpr std::size_t blockSize = 65'536;
+
+    std::vector<std::unique_ptr<char[]>> blocks_; // NOLINT(*-avoid-c-arrays)
+    std::vector<std::string_view> lines_;
+    char* free_ = nullptr; ///< what is left of the last block
+    std::size_t room_ = 0;
+};
 
 LogLines::LogLines(const std::vector<std::string>& lines) {
     for (const std::string& line : lines) {
@@ -12,16 +49,19 @@ LogLines::LogLines(const std::vector<std::string>& lines) {
     }
 }
 
-void LogLines::append(std::string line) {
+void LogLines::append(std::string_view line) {
     if (!lines_) {
-        lines_ = std::make_shared<std::vector<std::string>>();
+        lines_ = std::make_shared<Text>();
     } else if (lines_->size() != count_) {
         // Another copy has grown: the two part here.
-        lines_ = std::make_shared<std::vector<std::string>>(
-            lines_->begin(), std::next(lines_->begin(), static_cast<std::ptrdiff_t>(count_)));
+        lines_ = std::make_shared<Text>(*lines_, count_);
     }
-    lines_->push_back(std::move(line));
+    lines_->append(harmlessText(line));
     ++count_;
+}
+
+std::string_view LogLines::operator[](std::size_t index) const {
+    return (*lines_)[index];
 }
 
 bool LogLines::continues(const LogLines& earlier) const {
@@ -48,12 +88,15 @@ bool operator==(const LogLines& one, const LogLines& other) {
     if (one.count_ != other.count_) {
         return false;
     }
-    if (one.lines_ == other.lines_ || one.empty()) {
+    if (one.lines_ == other.lines_) {
         return true;
     }
-    const auto count = static_cast<std::ptrdiff_t>(one.count_);
-    return std::equal(one.lines_->begin(), std::next(one.lines_->begin(), count),
-                      other.lines_->begin());
+    for (std::size_t index = 0; index < one.count_; ++index) {
+        if (one[index] != other[index]) {
+            return false;
+        }
+    }
+    return true;
 }
 
 } // namespace kelmar

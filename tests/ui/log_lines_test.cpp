@@ -145,5 +145,12 @@ TEST(LogLines, ABranchDoesNotContinueTheOther) {
     EXPECT_FALSE(right.continues(left));
 }
 
+TEST(LogLines, AreOneLineEachWhateverNamesAreInThem) {
+    LogLines log({"Removed ~/a\nKelmar has been removed.\r"});
+    log.append(std::string("b\x1b[2K\xe2\x80") + '\xae');
+    EXPECT_EQ(log.text(), "Removed ~/a\xe2\x90\x8aKelmar has been removed.\xe2\x90\x8d\n"
+                          "b\xe2\x90\x9b[2K\xef\xbf\xbd");
+}
+
 } // namespace
 } // namespace kelmar

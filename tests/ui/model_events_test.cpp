@@ -23,7 +23,7 @@ protected:
         }
         text += " [" + published().detail + "]";
         for (std::size_t index = 0; index < published().log.size(); ++index) {
-            text += " " + published().log[index] + ";";
+            text += " " + std::string(published().log[index]) + ";";
         }
         return text + (model->isWorking() ? "" : " over");
     }

@@ -83,7 +83,8 @@ void LogView::addPortion() {
         if (shown_ != 0) {
             text += '\n';
         }
-        text += QString::fromStdString(log_[shown_]);
+        const std::string_view line = log_[shown_];
+        text += QString::fromUtf8(line.data(), static_cast<qsizetype>(line.size()));
     }
     QScrollBar& bar = *verticalScrollBar();
     const int place = bar.value();
