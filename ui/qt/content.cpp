@@ -12,6 +12,7 @@
 #include "ui/qt/slim_scroll_bar.hpp"
 #include "ui/qt/text_label.hpp"
 
+#include <QApplication>
 #include <QScrollBar>
 #include <QVBoxLayout>
 #include <algorithm>
@@ -59,6 +60,21 @@ ContentWidget::ContentWidget(WindowActions actions, QWidget* parent)
     setWidget(inside);
     viewport()->setAutoFillBackground(false);
     inside->setAutoFillBackground(false);
+    // The toolkit scrolls only to what the Tab key reaches from within the column.
+    connect(qApp, &QApplication::focusChanged, this,
+            [this](QWidget* /*before*/, QWidget* now) { bringIntoSight(now); });
+}
+
+ContentWidget::~ContentWidget() {
+    // The focus moves while the blocks are taken down.
+    disconnect(qApp, nullptr, this, nullptr);
+}
+
+void ContentWidget::bringIntoSight(QWidget* focused) {
+    // Nothing moves away under a button of the mouse that is held down.
+    if (widget()->isAncestorOf(focused) && QGuiApplication::mouseButtons() == Qt::NoButton) {
+        ensureWidgetVisible(focused, 0, Look::sectionGap);
+    }
 }
 
 void ContentWidget::resizeEvent(QResizeEvent* event) {

@@ -19,6 +19,9 @@ namespace kelmar {
 class ContentWidget : public QScrollArea {
 public:
     explicit ContentWidget(WindowActions actions, QWidget* parent = nullptr);
+    ContentWidget(const ContentWidget&) = delete;
+    ContentWidget& operator=(const ContentWidget&) = delete;
+    ~ContentWidget() override;
 
     void render(const Content& content);
 
@@ -59,6 +62,7 @@ private:
 
     void keepReadingOrder(Place made);
     void revealData();
+    void bringIntoSight(QWidget* focused);
 
     WindowActions actions_;
     QVBoxLayout* column_;
