@@ -268,6 +268,10 @@ struct Page {
     Footer footer;
     std::optional<Confirmation> confirmation;
 
+    /// What a screen reader is to say when the page comes to be one of another phase, or when this
+    /// text changes: the headline, and the notice if there is one.
+    [[nodiscard]] std::string announcement() const;
+
     friend bool operator==(const Page&, const Page&) = default;
 };
 

@@ -59,7 +59,10 @@ unsigned Accessible::states() const {
                                       {enabled, ATSPI_STATE_ENABLED},
                                       {focusable, ATSPI_STATE_FOCUSABLE},
                                       {focused, ATSPI_STATE_FOCUSED},
-                                      {showing, ATSPI_STATE_SHOWING}}) {
+                                      {showing, ATSPI_STATE_SHOWING},
+                                      {expandable, ATSPI_STATE_EXPANDABLE},
+                                      {expanded, ATSPI_STATE_EXPANDED},
+                                      {modal, ATSPI_STATE_MODAL}}) {
         if (set && atspi_state_set_contains(set.get(), type) != FALSE) {
             states |= state;
         }
@@ -78,25 +81,6 @@ Rectangle Accessible::place() const {
                                 : Rectangle{};
     g_free(extents);
     return place;
-}
-
-std::vector<std::string> Accessible::labels() const {
-    std::vector<std::string> names;
-    GArray* const relations =
-        object_ ? atspi_accessible_get_relation_set(object_.get(), nullptr) : nullptr;
-    for (guint index = 0; relations != nullptr && index < relations->len; ++index) {
-        const auto relation = held(g_array_index(relations, AtspiRelation*, index));
-        if (atspi_relation_get_relation_type(relation.get()) == ATSPI_RELATION_LABELLED_BY) {
-            for (int target = 0; target < atspi_relation_get_n_targets(relation.get()); ++target) {
-                names.push_back(
-                    Accessible(atspi_relation_get_target(relation.get(), target)).name());
-            }
-        }
-    }
-    if (relations != nullptr) {
-        g_array_free(relations, TRUE);
-    }
-    return names;
 }
 
 std::string Accessible::key() const {

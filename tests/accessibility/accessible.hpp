@@ -22,6 +22,9 @@ public:
         focusable = 1U << 2U,
         focused = 1U << 3U,
         showing = 1U << 4U,
+        expandable = 1U << 5U,
+        expanded = 1U << 6U,
+        modal = 1U << 7U,
     };
 
     Accessible() = default;
@@ -42,9 +45,6 @@ public:
 
     /// Where it is on the screen.
     [[nodiscard]] Rectangle place() const;
-
-    /// The names of what labels it.
-    [[nodiscard]] std::vector<std::string> labels() const;
 
     /// The key of its first action that has one, as in "Ctrl+Q".
     [[nodiscard]] std::string key() const;

@@ -1,5 +1,8 @@
+#include "tests/accessibility/announcement_recorder.hpp"
 #include "tests/support/snapshot.hpp"
 #include "tests/window/pretend_mac_fixture.hpp"
+
+#include <algorithm>
 
 namespace kelmar {
 namespace {
@@ -21,6 +24,7 @@ TEST_F(WindowOnAPretendMac, GoesBackToTheChoiceWhenNobodyGivesThePassword) {
         "label: Nothing was removed: removing Kelmar needs an administrator's password. Kelmar was "
         "closed; open it again from Applications if you still need it.";
 
+    const test::AnnouncementRecorder recorder;
     for (int round = 0; round < 2; ++round) {
         click("push button", "Uninstall");
         click("push button", "Uninstall and Delete Data");
@@ -35,6 +39,13 @@ TEST_F(WindowOnAPretendMac, GoesBackToTheChoiceWhenNobodyGivesThePassword) {
         EXPECT_EQ(lines[2], notice) << "it comes before what was found";
         EXPECT_EQ(lines[3], "heading: Found on this Mac");
     }
+    const Lines& announcements = recorder.announcements();
+    EXPECT_EQ(std::count_if(announcements.begin(), announcements.end(),
+                            [&](const std::string& each) {
+                                return each.ends_with(notice.substr(std::string("label: ").size()));
+                            }),
+              2)
+        << "the notice is said after each attempt";
     screen->press("Escape");
     expectEnd();
 }

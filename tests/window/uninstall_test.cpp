@@ -33,6 +33,13 @@ protected:
         return std::filesystem::exists(std::filesystem::symlink_status(path));
     }
 
+    /// On its label, which is not there for screen readers.
+    void clickBesideTheSwitch() const {
+        constexpr int indent = 60;
+        const int y = window().find("check box", "Delete Kelmar data").place().centre().y;
+        screen->click({onScreen().place.x + indent, y});
+    }
+
     void expectTheProductGone() const {
         for (const Scope scope : {Scope::me, Scope::allUsers}) {
             EXPECT_FALSE(isThere(mac->paths().app(scope)));
@@ -60,7 +67,8 @@ TEST_F(WholeUninstall, WithTheKeyboardAlone) {
     for (const char* const next :
          {"check box: Database", "check box: Store", "check box: Export", "check box: Logs",
           "check box: CDN", "check box: CDN_remote", "check box: Models", "check box: Staging",
-          "push button: Quit", "push button: Uninstall", "check box: Delete Kelmar data"}) {
+          "push button: Quit", "push button: Uninstall",
+          "label: Asks for an administrator's password", "check box: Delete Kelmar data"}) {
         screen->press("Tab");
         ASSERT_TRUE(focusIsOn(next));
     }
@@ -82,6 +90,9 @@ TEST_F(WholeUninstall, WithTheKeyboardAlone) {
 
     screen->press("Return");
     ASSERT_TRUE(shows("alert: Delete " + size + " of Kelmar data?"));
+    EXPECT_TRUE(window()
+                    .find("alert", "Delete " + size + " of Kelmar data?")
+                    .is(test::Accessible::modal));
     EXPECT_TRUE(shows("label: Your cases, imported documents, exports and downloaded AI models "
                       "will be deleted for good. You can't undo this."));
     EXPECT_TRUE(focusIsOn("push button: Cancel"));
@@ -144,9 +155,9 @@ TEST_F(WholeUninstall, WithTheMouseAloneAndTheDataKept) {
                       "/Users/Shared/@Kelmar. Kelmar now installs for one account at a time and "
                       "doesn't use that folder."));
     EXPECT_TRUE(shows("label: Delete Kelmar data, Empty"));
-    click("label", "Delete Kelmar data");
+    clickBesideTheSwitch();
     ASSERT_TRUE(shows("check box: Delete Kelmar data (on)")) << "its label is part of a switch";
-    click("label", "Delete Kelmar data");
+    clickBesideTheSwitch();
     ASSERT_TRUE(shows("check box: Delete Kelmar data"));
     click("push button", "Uninstall");
     EXPECT_TRUE(becomes({

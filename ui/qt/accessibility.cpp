@@ -1,5 +1,8 @@
 #include "ui/qt/accessibility.hpp"
 
+#include "system/text/harmless_text.hpp"
+#include "ui/look.hpp"
+
 #include <QAbstractButton>
 #include <QAccessibleWidget>
 #include <QLabel>
@@ -10,6 +13,9 @@ namespace kelmar {
 namespace {
 
 constexpr const char* roleProperty = "kelmarAccessibleRole";
+constexpr const char* modalProperty = "kelmarAccessiblyModal";
+constexpr const char* hiddenProperty = "kelmarAccessiblyHidden";
+constexpr const char* expandedProperty = "kelmarAccessiblyExpanded";
 
 /// A widget in another role than its class has.
 class InRole : public QAccessibleWidget {
@@ -18,7 +24,24 @@ public:
 
     [[nodiscard]] QString text(QAccessible::Text kind) const override {
         const QString own = QAccessibleWidget::text(kind);
-        return kind == QAccessible::Name && own.isEmpty() ? shownText() : own;
+        const QString& text = kind == QAccessible::Name && own.isEmpty() ? shownText() : own;
+        return QString::fromStdString(harmlessText(text.toStdString()));
+    }
+
+    [[nodiscard]] QAccessible::State state() const override {
+        QAccessible::State state = QAccessibleWidget::state();
+        if (widget()->property(modalProperty).isValid()) {
+            state.modal = true;
+        }
+        if (widget()->property(hiddenProperty).isValid()) {
+            state.invisible = true;
+        }
+        if (const QVariant expanded = widget()->property(expandedProperty); expanded.isValid()) {
+            state.expandable = true;
+            state.expanded = expanded.toBool();
+            state.collapsed = !expanded.toBool();
+        }
+        return state;
     }
 
 private:
@@ -40,6 +63,12 @@ public:
         state.checked = button().isChecked();
         state.pressed = button().isDown();
         return state;
+    }
+
+    [[nodiscard]] QRect rect() const override {
+        constexpr int room = Look::focusRoom;
+        const QRect whole = InRole::rect();
+        return whole.isNull() ? whole : whole.adjusted(room, room, -room, -room);
     }
 
     [[nodiscard]] QStringList actionNames() const override {
@@ -90,6 +119,26 @@ void installAccessibleRoles() {
 
 void setAccessibleRole(QWidget& widget, QAccessible::Role role) {
     widget.setProperty(roleProperty, static_cast<int>(role));
+}
+
+void setAccessiblyModal(QWidget& widget) {
+    widget.setProperty(modalProperty, true);
+}
+
+void hideFromScreenReaders(QWidget& widget) {
+    widget.setProperty(hiddenProperty, true);
+}
+
+void setAccessiblyExpanded(QWidget& widget, bool expanded) {
+    if (widget.property(expandedProperty) == expanded) {
+        return;
+    }
+    widget.setProperty(expandedProperty, expanded);
+    QAccessible::State changed;
+    changed.expanded = true;
+    changed.collapsed = true;
+    QAccessibleStateChangeEvent event(&widget, changed);
+    QAccessible::updateAccessibility(&event);
 }
 
 void announce(QWidget& widget, const QString& text) {

@@ -42,13 +42,13 @@ void ButtonRow::render(const std::vector<Button>& buttons) {
     }
 }
 
-void ButtonRow::press(ButtonKey key) {
+PushButton* ButtonRow::pressedBy(ButtonKey key) const {
     for (PushButton* const button : buttons_.rows()) {
         if (button->isEnabled() && belongs(key, button->shown())) {
-            button->click();
-            return;
+            return button;
         }
     }
+    return nullptr;
 }
 
 PushButton* ButtonRow::safest() const {

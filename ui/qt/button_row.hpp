@@ -18,8 +18,8 @@ public:
 
     void render(const std::vector<Button>& buttons);
 
-    /// Presses the enabled button that `key` belongs to, if there is one.
-    void press(ButtonKey key);
+    /// The enabled button that `key` belongs to; null without one.
+    [[nodiscard]] PushButton* pressedBy(ButtonKey key) const;
 
     /// The button that leads out, else the last one.
     [[nodiscard]] PushButton* safest() const;

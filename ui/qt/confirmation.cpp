@@ -64,6 +64,7 @@ ConfirmationOverlay::ConfirmationOverlay(QWidget& page, std::function<void(Actio
     column->addLayout(middle);
     column->addStretch(1);
     setAccessibleRole(*this, QAccessible::AlertMessage);
+    setAccessiblyModal(*this);
     hide();
 }
 
@@ -92,9 +93,9 @@ void ConfirmationOverlay::dismiss() {
     }
     hide();
     page_.setEnabled(true);
-    if (QWidget* const before = focus_.data(); before != nullptr && before->isVisible()) {
-        before->setFocus();
-    }
+    QWidget* const before = focus_.data();
+    const bool isThere = before != nullptr && before->isVisible() && before->isEnabled();
+    (isThere ? before : parentWidget())->setFocus();
 }
 
 void ConfirmationOverlay::paintEvent(QPaintEvent* /*event*/) {

@@ -38,13 +38,14 @@ Disclosure::Disclosure(QWidget* parent) : QPushButton(parent) {
     setFlat(true);
     setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
     setAccessibleRole(*this, QAccessible::Button);
+    setAccessiblyExpanded(*this, unfolded_);
 }
 
 void Disclosure::render(const Button& button, bool unfolded) {
     setText(QString::fromStdString(button.text));
     if (unfolded != unfolded_) {
         unfolded_ = unfolded;
-        setAccessibleDescription(unfolded ? Texts::unfolded : Texts::folded);
+        setAccessiblyExpanded(*this, unfolded);
         update();
     }
 }

@@ -1,6 +1,8 @@
 #include "ui/qt/folder_list.hpp"
 
+#include "system/text/harmless_text.hpp"
 #include "ui/look.hpp"
+#include "ui/qt/accessibility.hpp"
 #include "ui/qt/card.hpp"
 #include "ui/qt/check_box.hpp"
 #include "ui/qt/margins.hpp"
@@ -41,7 +43,7 @@ FolderRowWidget::FolderRowWidget(const SelectFolder& select, QWidget* parent)
 
 void FolderRowWidget::render(const FolderRow& row) {
     path_ = row.path;
-    const QString name = QString::fromStdString(row.name);
+    const QString name = QString::fromStdString(harmlessText(row.name));
     if (name != check_->text()) {
         check_->setText(name);
         check_->setShortcut({}); // an ampersand of a name marks no key
@@ -83,6 +85,7 @@ FolderListWidget::FolderListWidget(SelectFolder select, QWidget* parent)
     inside->addLayout(folders_);
     inside->addLayout(indented(others_));
     column->addLayout(inside);
+    setAccessibleRole(*heading_, QAccessible::Heading);
 }
 
 int FolderListWidget::nameWidth() const {

@@ -37,12 +37,13 @@ HeaderWidget::HeaderWidget(QWidget* parent)
     announcer_->setGeometry(0, 0, 1, 1);
 }
 
-void HeaderWidget::render(const Header& header, bool announced) {
+void HeaderWidget::render(const Header& header) {
     title_->showText(header.title);
     subtitle_->showText(header.subtitle);
-    if (announced) {
-        announce(*announcer_, QString::fromStdString(header.announcement()));
-    }
+}
+
+void HeaderWidget::announce(const std::string& text) {
+    kelmar::announce(*announcer_, QString::fromStdString(text));
 }
 
 } // namespace kelmar

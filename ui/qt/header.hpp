@@ -13,8 +13,10 @@ class HeaderWidget : public QWidget {
 public:
     explicit HeaderWidget(QWidget* parent = nullptr);
 
-    /// With `announced`, screen readers are told the headline.
-    void render(const Header& header, bool announced);
+    void render(const Header& header);
+
+    /// Screen readers say `text` at once.
+    void announce(const std::string& text);
 
 private:
     TextLabel* title_;

@@ -38,7 +38,10 @@ MainWindow::MainWindow(const WindowActions& actions, const std::function<void(Me
     setCentralWidget(page_);
     auto* const bar = new MenuBar;
     setMenuBar(bar);
-    fillMenuBar(*bar, mainMenu(), menu);
+    fillMenuBar(*bar, mainMenu(), {menu, [this](MenuAction action) {
+                                       // The panel would cover the question.
+                                       return action != MenuAction::about || !page_->isAsking();
+                                   }});
     page_->observeAsking([bar](bool asking) { bar->setDimmed(asking); });
     setFixedSize(contentSize);
 }

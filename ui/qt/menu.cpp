@@ -20,21 +20,21 @@ SelectableText* focusedLabel() {
     return dynamic_cast<SelectableText*>(QApplication::focusWidget());
 }
 
+/// Other programs' windows are theirs here, and a desktop brings a hidden one back itself.
+bool isNeverAnswered(MenuAction action) {
+    return action == MenuAction::hideOthers || action == MenuAction::showAll;
+}
+
 /// Whether there is anything that answers to the action now.
-bool isAnswered(MenuAction action) {
-    switch (action) {
-    case MenuAction::copy:
+bool isAnswered(MenuAction action, const MenuActions& actions) {
+    if (action == MenuAction::copy) {
         return (focusedText() != nullptr && focusedText()->textCursor().hasSelection()) ||
                (focusedLabel() != nullptr && !focusedLabel()->selected().isEmpty());
-    case MenuAction::selectAll:
-        return focusedText() != nullptr || focusedLabel() != nullptr;
-    case MenuAction::hideOthers:
-    case MenuAction::showAll:
-        // Other programs' windows are theirs here, and a desktop brings a hidden one back itself.
-        return false;
-    default:
-        return true;
     }
+    if (action == MenuAction::selectAll) {
+        return focusedText() != nullptr || focusedLabel() != nullptr;
+    }
+    return !isNeverAnswered(action) && actions.offers(action);
 }
 
 QKeySequence keys(const MenuItem& item) {
@@ -45,8 +45,8 @@ QKeySequence keys(const MenuItem& item) {
     return {(item.option ? "Ctrl+Alt+" : "Ctrl+") + letter};
 }
 
-void perform(MenuAction action, const std::function<void(MenuAction)>& other) {
-    if (!isAnswered(action)) {
+void perform(MenuAction action, const MenuActions& actions) {
+    if (!isAnswered(action, actions)) {
         return;
     }
     SelectableText* const label = focusedLabel();
@@ -59,20 +59,25 @@ void perform(MenuAction action, const std::function<void(MenuAction)>& other) {
     } else if (action == MenuAction::selectAll) {
         focusedText()->selectAll();
     } else {
-        other(action);
+        actions.perform(action);
     }
 }
 
-QAction* add(QMenu& menu, const MenuItem& item, const std::function<void(MenuAction)>& other) {
+QAction* add(QMenu& menu, const MenuItem& item, const MenuActions& actions) {
     QAction* const action = menu.addAction(QString::fromStdString(item.title));
     action->setShortcut(keys(item));
     action->setMenuRole(QAction::NoRole);
     const MenuAction kind = item.action;
-    QObject::connect(action, &QAction::triggered, &menu, [kind, other] { perform(kind, other); });
+    if (isNeverAnswered(kind)) {
+        action->setEnabled(false);
+        return action;
+    }
+    QObject::connect(action, &QAction::triggered, &menu,
+                     [kind, actions] { perform(kind, actions); });
     // Grey while the menu is open and nothing answers. Its key does nothing then, either, but an
     // action that is grey all the time would not have one.
     QObject::connect(&menu, &QMenu::aboutToShow, action,
-                     [action, kind] { action->setEnabled(isAnswered(kind)); });
+                     [action, kind, actions] { action->setEnabled(isAnswered(kind, actions)); });
     QObject::connect(&menu, &QMenu::aboutToHide, action, [action] { action->setEnabled(true); });
     return action;
 }
@@ -92,13 +97,12 @@ void addWindow(QMenu& menu, QWidget& window) {
 
 } // namespace
 
-void fillMenuBar(QMenuBar& bar, const std::vector<Menu>& menus,
-                 const std::function<void(MenuAction)>& perform) {
+void fillMenuBar(QMenuBar& bar, const std::vector<Menu>& menus, const MenuActions& actions) {
     for (const Menu& described : menus) {
         QMenu* const menu = bar.addMenu(QString::fromStdString(described.title));
         for (const std::optional<MenuItem>& item : described.items) {
             if (item) {
-                add(*menu, *item, perform);
+                add(*menu, *item, actions);
             } else {
                 menu->addSeparator();
             }

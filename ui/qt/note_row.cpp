@@ -1,12 +1,18 @@
 #include "ui/qt/note_row.hpp"
 
+#include "system/text/harmless_text.hpp"
 #include "ui/look.hpp"
+#include "ui/qt/focus_ring.hpp"
 #include "ui/qt/fonts.hpp"
 #include "ui/qt/icon.hpp"
 #include "ui/qt/tool_tip.hpp"
 
+#include <QEvent>
 #include <QHBoxLayout>
 #include <QHelpEvent>
+#include <QPainter>
+#include <QTimerEvent>
+#include <QToolTip>
 #include <algorithm>
 
 namespace kelmar {
@@ -30,9 +36,45 @@ void NoteRow::showNote(const std::string& symbol, Tint tint, const std::string& 
 
 void NoteRow::render(const FooterNote& note) {
     showNote(note.symbol, Tint::secondary, note.text);
-    const QString help = QString::fromStdString(note.help);
+    const QString help = QString::fromStdString(harmlessText(note.help));
     setToolTip(help);
     text_->setAccessibleDescription(help);
+    // The mouse rests on a note to read its help; the keyboard's focus does.
+    text_->setFocusPolicy(help.isEmpty() ? Qt::NoFocus : Qt::TabFocus);
+    text_->installEventFilter(this);
+}
+
+bool NoteRow::eventFilter(QObject* watched, QEvent* event) {
+    if (event->type() == QEvent::FocusIn) {
+        // Later, since the toolkit closes a tooltip while it moves the focus.
+        help_.start(0, this);
+        update();
+    } else if (event->type() == QEvent::FocusOut) {
+        QToolTip::hideText();
+        update();
+    }
+    return QWidget::eventFilter(watched, event);
+}
+
+void NoteRow::timerEvent(QTimerEvent* event) {
+    if (event->timerId() != help_.timerId()) {
+        QWidget::timerEvent(event);
+        return;
+    }
+    help_.stop();
+    if (text_->hasFocus()) {
+        QToolTip::showText(mapToGlobal(QPoint()), toolTipMarkup(toolTip()), this);
+    }
+}
+
+void NoteRow::paintEvent(QPaintEvent* /*event*/) {
+    if (showsFocus(*text_)) {
+        QPainter painter(this);
+        painter.setRenderHint(QPainter::Antialiasing);
+        constexpr int room = Look::focusRoom;
+        paintFocusRing(painter, QRectF(rect()).adjusted(room, room, -room, -room),
+                       Look::controlRadius, Colours(palette()));
+    }
 }
 
 bool NoteRow::event(QEvent* event) {

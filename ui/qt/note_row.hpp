@@ -4,6 +4,7 @@
 #include "ui/page.hpp"
 #include "ui/qt/text_label.hpp"
 
+#include <QBasicTimer>
 #include <QWidget>
 
 namespace kelmar {
@@ -21,13 +22,19 @@ public:
     void render(const SummaryRow& row);
     void render(const Callout& callout);
 
+    /// Shows the note's help while the note has the focus, and the ring around it.
+    bool eventFilter(QObject* watched, QEvent* event) override;
+
 protected:
     bool event(QEvent* event) override;
+    void paintEvent(QPaintEvent* event) override;
+    void timerEvent(QTimerEvent* event) override;
 
 private:
     void showNote(const std::string& symbol, Tint tint, const std::string& text);
 
     int size_;
+    QBasicTimer help_; ///< runs until the help is shown
     IconLabel* symbol_;
     TextLabel* text_;
 };

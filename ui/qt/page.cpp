@@ -7,8 +7,11 @@
 #include "ui/qt/footer.hpp"
 #include "ui/qt/header.hpp"
 
+#include <QApplication>
+#include <QLabel>
 #include <QShortcut>
 #include <QVBoxLayout>
+#include <algorithm>
 #include <utility>
 
 namespace kelmar {
@@ -53,14 +56,59 @@ PageWidget::PageWidget(WindowActions actions, QWidget* parent)
         made->setAutoRepeat(false); // a key that is held down answers one question
         connect(made, &QShortcut::activated, this, [this, meaning] { press(meaning); });
     };
+    connect(qApp, &QApplication::focusChanged, this, [this] { highlight(); });
     shortcut(Qt::Key_Return, ButtonKey::defaultAction);
     shortcut(Qt::Key_Enter, ButtonKey::defaultAction);
     shortcut(Qt::Key_Escape, ButtonKey::cancelAction);
 }
 
+PageWidget::~PageWidget() {
+    // The focus moves while the page's parts are taken down.
+    disconnect(qApp, nullptr, this, nullptr);
+}
+
+bool PageWidget::isAsking() const {
+    return alert_ != nullptr && !alert_->isHidden();
+}
+
+QPushButton* PageWidget::pressedBy(ButtonKey key) const {
+    // A question is left by either key, whatever has the focus.
+    if (isAsking()) {
+        return alert_->buttons().pressedBy(key);
+    }
+    // Elsewhere Return is the focused button's, as on every desktop that this window is for.
+    auto* const focused = qobject_cast<QPushButton*>(window()->focusWidget());
+    if (key == ButtonKey::defaultAction && focused != nullptr && isAncestorOf(focused) &&
+        focused->isEnabled()) {
+        return focused;
+    }
+    return footer_->buttons().pressedBy(key);
+}
+
+PageWidget::Focus PageWidget::focused() const {
+    QWidget* const widget = window()->focusWidget();
+    const auto* const button = dynamic_cast<const PushButton*>(widget);
+    return {widget, button == nullptr ? std::nullopt : std::optional(button->shown().action)};
+}
+
 void PageWidget::press(ButtonKey key) {
-    const bool asking = alert_ != nullptr && alert_->isVisible();
-    (asking ? alert_->buttons() : footer_->buttons()).press(key);
+    if (QPushButton* const button = pressedBy(key)) {
+        button->click();
+    }
+}
+
+void PageWidget::highlight() {
+    QPushButton* const button = pressedBy(ButtonKey::defaultAction);
+    if (button == highlighted_) {
+        return;
+    }
+    for (const auto& [each, highlighted] :
+         {std::pair{highlighted_.data(), false}, {button, true}}) {
+        if (auto* const drawn = dynamic_cast<PushButton*>(each)) {
+            drawn->setHighlighted(highlighted);
+        }
+    }
+    highlighted_ = button;
 }
 
 void PageWidget::render(const Page& page) {
@@ -68,9 +116,14 @@ void PageWidget::render(const Page& page) {
         return;
     }
     ++changes_;
-    const bool newPhase = !shown_ || shown_->content.index() != page.content.index();
-    if (!shown_ || newPhase || shown_->header != page.header) {
-        header_->render(page.header, newPhase);
+    const Focus focus = focused();
+    const bool wasAsking = isAsking();
+    if (!shown_ || shown_->header != page.header) {
+        header_->render(page.header);
+    }
+    if (!shown_ || shown_->content.index() != page.content.index() ||
+        shown_->announcement() != page.announcement()) {
+        header_->announce(page.announcement());
     }
     if (!shown_ || shown_->content != page.content) {
         content_->render(page.content);
@@ -81,6 +134,11 @@ void PageWidget::render(const Page& page) {
     renderAlert(page.confirmation);
     shown_ = page;
     orderFocus();
+    if (focus.widget != nullptr && !wasAsking && focused() != focus && !isAsking()) {
+        // The toolkit has moved it on to whatever comes next, which nobody has chosen.
+        setFocus();
+    }
+    highlight();
 }
 
 void PageWidget::renderAlert(const std::optional<Confirmation>& confirmation) {
@@ -100,6 +158,10 @@ void PageWidget::orderFocus() {
     QList<QWidget*> controls;
     collect(content_->widget()->layout(), controls);
     collect(footer_->layout(), controls);
+    // Notes have the focus for their help alone: whoever wants a button need not pass them.
+    std::stable_partition(controls.begin(), controls.end(), [](const QWidget* control) {
+        return qobject_cast<const QLabel*>(control) == nullptr;
+    });
     for (qsizetype index = 1; index < controls.size(); ++index) {
         if (controls[index - 1]->nextInFocusChain() != controls[index]) {
             setTabOrder(controls[index - 1], controls[index]);

@@ -3,6 +3,8 @@
 #include "ui/page.hpp"
 #include "ui/window_actions.hpp"
 
+#include <QPointer>
+#include <QPushButton>
 #include <QWidget>
 #include <cstddef>
 #include <functional>
@@ -20,6 +22,9 @@ class HeaderWidget;
 class PageWidget : public QWidget {
 public:
     explicit PageWidget(WindowActions actions, QWidget* parent = nullptr);
+    PageWidget(const PageWidget&) = delete;
+    PageWidget& operator=(const PageWidget&) = delete;
+    ~PageWidget() override;
 
     void render(const Page& page);
 
@@ -29,11 +34,26 @@ public:
     /// How often `render` has changed anything.
     [[nodiscard]] std::size_t changes() const { return changes_; }
 
+    /// A question is laid over the page.
+    [[nodiscard]] bool isAsking() const;
+
 protected:
     void resizeEvent(QResizeEvent* event) override;
 
 private:
+    /// What has the focus, and what a button that has it stands for.
+    struct Focus {
+        QWidget* widget; ///< may be gone by now
+        std::optional<Action> action;
+
+        friend bool operator==(const Focus&, const Focus&) = default;
+    };
+
+    [[nodiscard]] Focus focused() const;
+    /// What `key` presses now; null if nothing.
+    [[nodiscard]] QPushButton* pressedBy(ButtonKey key) const;
     void press(ButtonKey key);
+    void highlight();
     void renderAlert(const std::optional<Confirmation>& confirmation);
     void orderFocus();
 
@@ -43,6 +63,7 @@ private:
     ContentWidget* content_;
     FooterWidget* footer_;
     ConfirmationOverlay* alert_ = nullptr; ///< made for the first question
+    QPointer<QPushButton> highlighted_;
     std::optional<Page> shown_;
     std::function<void(bool)> asking_ = [](bool) {};
     std::size_t changes_ = 0;

@@ -11,14 +11,6 @@
 
 namespace kelmar {
 
-namespace {
-
-bool isReturns(const Button& button) {
-    return button.key == ButtonKey::defaultAction || button.key == ButtonKey::both;
-}
-
-} // namespace
-
 PushButton::PushButton(Size size, QWidget* parent) : QPushButton(parent), size_(size) {
     setFont(fontOf(TextStyle::body));
     setAutoDefault(false);
@@ -39,6 +31,13 @@ void PushButton::render(const Button& button) {
     setEnabled(button.enabled);
     updateGeometry();
     update();
+}
+
+void PushButton::setHighlighted(bool highlighted) {
+    if (highlighted != highlighted_) {
+        highlighted_ = highlighted;
+        update();
+    }
 }
 
 Look::Padding PushButton::padding() const {
@@ -67,7 +66,7 @@ QSize PushButton::sizeHint() const {
 
 void PushButton::paintEvent(QPaintEvent* /*event*/) {
     const Colours colours(palette());
-    const bool filled = isReturns(shown_) && !isGreyed(*this);
+    const bool filled = highlighted_ && !isGreyed(*this);
     QPainter painter(this);
     painter.setRenderHint(QPainter::Antialiasing);
     constexpr qreal edge = Look::focusRoom + Look::hairline / 2.0; // the middle of the face's edge

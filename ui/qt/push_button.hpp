@@ -7,8 +7,8 @@
 
 namespace kelmar {
 
-/// A button of the page. Return never presses it by the focus alone: the window gives Return to
-/// the page's default button, wherever the focus is.
+/// A button of the page. It takes no Return itself: the page knows what Return presses, and lets
+/// that button be highlighted.
 class PushButton : public QPushButton {
 public:
     enum class Size {
@@ -19,6 +19,8 @@ public:
     explicit PushButton(Size size, QWidget* parent = nullptr);
 
     void render(const Button& button);
+
+    void setHighlighted(bool highlighted);
 
     [[nodiscard]] const Button& shown() const { return shown_; }
 
@@ -36,6 +38,7 @@ private:
 
     Size size_;
     Button shown_;
+    bool highlighted_ = false;
 };
 
 } // namespace kelmar

@@ -1,5 +1,6 @@
 #include "ui/qt/size_label.hpp"
 
+#include "ui/qt/accessibility.hpp"
 #include "ui/qt/colours.hpp"
 #include "ui/qt/fonts.hpp"
 
@@ -27,6 +28,7 @@ int advance(const QFontMetrics& metrics, QChar character) {
 SizeLabel::SizeLabel(QWidget* parent) : QLabel(parent) {
     setTextFormat(Qt::PlainText);
     setFont(fontOf(TextStyle::size));
+    setAccessibleRole(*this, QAccessible::StaticText);
     setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
 }
 

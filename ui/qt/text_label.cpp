@@ -1,6 +1,7 @@
 #include "ui/qt/text_label.hpp"
 
 #include "ui/drawn_text.hpp"
+#include "ui/qt/accessibility.hpp"
 #include "ui/qt/colours.hpp"
 #include "ui/qt/fonts.hpp"
 #include "ui/qt/tool_tip.hpp"
@@ -44,6 +45,7 @@ TextLabel::TextLabel(TextStyle style, TextTone tone, Overflow overflow, QWidget*
       overflow_(overflow) {
     setTextFormat(Qt::PlainText);
     setFont(fontOf(style));
+    setAccessibleRole(*this, QAccessible::StaticText);
     QSizePolicy policy(QSizePolicy::Preferred, QSizePolicy::Preferred);
     policy.setHeightForWidth(overflow == Overflow::wrap);
     setSizePolicy(policy);
@@ -56,11 +58,16 @@ void TextLabel::showText(const std::string& text) {
         measuredWidth_ = -1;
         updateGeometry();
         explainElision();
+        if (button_ != nullptr) {
+            button_->setAccessibleName(wanted);
+        }
     }
 }
 
 void TextLabel::nameFor(QAbstractButton* button) {
-    setBuddy(button);
+    button_ = button;
+    button->setAccessibleName(text());
+    hideFromScreenReaders(*this);
 }
 
 void TextLabel::setTone(TextTone tone) {
@@ -175,9 +182,8 @@ void TextLabel::explainElision() {
 }
 
 void TextLabel::mouseReleaseEvent(QMouseEvent* event) {
-    if (auto* const button = qobject_cast<QAbstractButton*>(buddy());
-        button != nullptr && event->button() == Qt::LeftButton && rect().contains(event->pos())) {
-        button->click();
+    if (button_ != nullptr && event->button() == Qt::LeftButton && rect().contains(event->pos())) {
+        button_->click();
     } else {
         QLabel::mouseReleaseEvent(event);
     }

@@ -28,7 +28,8 @@ public:
 
     void setTone(TextTone tone);
 
-    /// A press on the label presses `button`, which it names for people who can't see.
+    /// A press on the label presses `button`, which bears its name for people who can't see: to
+    /// them the two are one.
     void nameFor(QAbstractButton* button);
 
     [[nodiscard]] QSize sizeHint() const override;
@@ -60,6 +61,7 @@ private:
 
     TextTone tone_;
     Overflow overflow_;
+    QAbstractButton* button_ = nullptr; ///< that it names
     // The last answer of heightForWidth: layouts ask for the same one many times.
     mutable int measuredWidth_ = -1;
     mutable int measuredHeight_ = 0;

@@ -1,5 +1,6 @@
 #include "tests/ui/qt/page_fixture.hpp"
 #include "ui/qt/check_box.hpp"
+#include "ui/qt/disclosure.hpp"
 #include "ui/qt/toggle_switch.hpp"
 
 #include <QAccessible>
@@ -17,6 +18,16 @@ protected:
 
     static QAccessible::Role role(QObject* object) {
         return QAccessible::queryAccessibleInterface(object)->role();
+    }
+
+    /// What a screen reader was told last.
+    [[nodiscard]] std::string said() const {
+        for (QWidget* const widget : window.findChildren<QWidget*>()) {
+            if (role(widget) == QAccessible::Notification) {
+                return name(widget).toStdString();
+            }
+        }
+        return "nothing";
     }
 
     /// The names of all that is seen, as a screen reader would come upon them.
@@ -117,6 +128,120 @@ TEST_F(Accessibility, TheQuestionIsAnAlert) {
         }
     }
     FAIL() << "no alert";
+}
+
+TEST_F(Accessibility, TheNoticeOfAnAttemptIsSaidWithItsPage) {
+    Page scanning;
+    scanning.header = {"Uninstall Kelmar", "Looking…"};
+    scanning.content = ScanningContent{{"Looking…"}};
+    render(test::workingPage());
+    render(scanning);
+    Page ready = test::readyPage();
+    std::get<ReadyContent>(ready.content).notice =
+        Callout{"x", Tint::orange, "Nothing was removed."};
+    render(ready);
+    EXPECT_EQ(said(), "Uninstall Kelmar. Removes the Kelmar app. Nothing was removed.");
+    render(test::workingPage());
+    EXPECT_EQ(said(), "Uninstalling Kelmar… A few minutes.");
+}
+
+TEST_F(Accessibility, ADisclosureCanBeUnfoldedAndSaysWhetherItIs) {
+    render(test::finishedPage());
+    const QAccessibleInterface* const details =
+        QAccessible::queryAccessibleInterface(firstSeen<Disclosure>());
+    EXPECT_EQ(details->role(), QAccessible::Button);
+    EXPECT_TRUE(details->state().expandable);
+    EXPECT_TRUE(details->state().collapsed);
+    EXPECT_FALSE(details->state().expanded);
+    EXPECT_EQ(details->text(QAccessible::Description), "");
+    render(test::finishedPage({}, true));
+    EXPECT_TRUE(details->state().expandable);
+    EXPECT_FALSE(details->state().collapsed);
+    EXPECT_TRUE(details->state().expanded);
+    EXPECT_EQ(details->text(QAccessible::Description), "");
+}
+
+TEST_F(Accessibility, TheHeadingOfEachListOfFoldersIsOne) {
+    render(test::readyPage());
+    EXPECT_EQ(role(seen<TextLabel>("In your home folder, ~/Kelmar")), QAccessible::Heading);
+}
+
+TEST_F(Accessibility, TheQuestionHoldsPeopleUntilTheyAnswer) {
+    render(test::confirmingPage());
+    int questions = 0;
+    for (QWidget* const widget : window.findChildren<QWidget*>()) {
+        const QAccessible::State state = QAccessible::queryAccessibleInterface(widget)->state();
+        EXPECT_EQ(state.modal, role(widget) == QAccessible::AlertMessage);
+        questions += state.modal ? 1 : 0;
+    }
+    EXPECT_EQ(questions, 1);
+}
+
+TEST_F(Accessibility, TheSwitchIsWhereItIsDrawn) {
+    render(test::readyPage());
+    const ToggleSwitch& toggle = *firstSeen<ToggleSwitch>();
+    const QRect box = QAccessible::queryAccessibleInterface(firstSeen<ToggleSwitch>())->rect();
+    EXPECT_EQ(box.size(), QSize(Look::switchWidth, Look::switchHeight));
+    EXPECT_EQ(box.center(), QRect(toggle.mapToGlobal(QPoint()), toggle.size()).center());
+}
+
+TEST_F(Accessibility, TheNameOfTheSwitchIsSaidOnce) {
+    render(test::readyPage());
+    int times = 0;
+    for (QWidget* const widget : window.findChildren<QWidget*>()) {
+        const QAccessibleInterface* const seen = QAccessible::queryAccessibleInterface(widget);
+        times += !seen->state().invisible && name(widget) == "Delete Kelmar data" ? 1 : 0;
+    }
+    EXPECT_EQ(times, 1);
+    EXPECT_TRUE(QAccessible::queryAccessibleInterface(firstSeen<ToggleSwitch>())
+                    ->relations(QAccessible::Label)
+                    .isEmpty())
+        << "what labels it is not there to be read";
+}
+
+TEST_F(Accessibility, NamesAreAsHarmlessAsTheyAreDrawn) {
+    const std::string name = std::string("a\x1b[31m\nb\xe2\x80") + '\xae' + "c&d";
+    const QString drawn = QString::fromUtf8("a\xe2\x90\x9b[31m\xe2\x90\x8a"
+                                            "b\xef\xbf\xbd"
+                                            "c&d");
+    Page ready = test::readyPage();
+    auto& content = std::get<ReadyContent>(ready.content);
+    content.found.rows.at(0) = {FoundRow::Symbol{"gearshape"}, name, name};
+    content.data->lists.at(0) = {name, {{"/x", name, name, true, {1, name}}}, name};
+    ready.footer.notes.at(0).help = name;
+    Page working = test::workingPage(LogLines({name}), true);
+    std::get<WorkingContent>(working.content).detail = name;
+    Page finished = test::finishedPage(LogLines({name}), true);
+    std::get<FinishedContent>(finished.content).problems->rows = {{name, name}};
+    int found = 0;
+    for (const Page& each : {ready, working, finished}) {
+        render(each);
+        for (QWidget* const widget : window.findChildren<QWidget*>()) {
+            QAccessibleInterface* const seen = QAccessible::queryAccessibleInterface(widget);
+            QAccessibleTextInterface* const text = seen->textInterface();
+            for (const QString& said :
+                 {seen->text(QAccessible::Name), seen->text(QAccessible::Description),
+                  text == nullptr ? QString() : text->text(0, text->characterCount())}) {
+                EXPECT_FALSE(said.contains(QChar(0x1b))) << said.toStdString();
+                EXPECT_FALSE(said.contains(QChar(0x202e))) << said.toStdString();
+                found += widget->isVisible() && said.contains(drawn) ? 1 : 0;
+            }
+        }
+    }
+    EXPECT_EQ(found, 14) << "every name and description that has the name in it";
+}
+
+TEST_F(Accessibility, ALineOfTheRecordCannotPretendToBeTwo) {
+    render(test::finishedPage(LogLines({"Removed ~/a\nKelmar has been removed."}), true));
+    QAccessibleTextInterface* text = nullptr;
+    for (QWidget* const widget : window.findChildren<QWidget*>()) {
+        QAccessibleInterface* const seen = QAccessible::queryAccessibleInterface(widget);
+        if (widget->isVisible() && seen->role() == QAccessible::EditableText) {
+            text = seen->textInterface();
+        }
+    }
+    ASSERT_NE(text, nullptr);
+    EXPECT_EQ(text->text(0, text->characterCount()).count('\n'), 0);
 }
 
 } // namespace

@@ -1,10 +1,12 @@
 #include "tests/ui/qt/page_fixture.hpp"
 #include "ui/qt/check_box.hpp"
+#include "ui/qt/colours.hpp"
 #include "ui/qt/disclosure.hpp"
 #include "ui/qt/push_button.hpp"
 #include "ui/qt/toggle_switch.hpp"
 
 #include <QPlainTextEdit>
+#include <QToolTip>
 
 namespace kelmar {
 namespace {
@@ -21,10 +23,27 @@ protected:
         settle();
     }
 
+    using Texts = std::vector<std::string>;
+
+    /// The buttons that are drawn as the one that Return presses.
+    [[nodiscard]] Texts highlighted() const {
+        Texts texts;
+        for (PushButton* const button : test::widgets<PushButton>(window)) {
+            const QColor face = button->grab().toImage().pixelColor(8, button->height() / 2);
+            if (button->isVisible() && face.rgb() == Colours(button->palette()).accent.rgb()) {
+                texts.push_back(button->text().toStdString());
+            }
+        }
+        return texts;
+    }
+
     static std::string focused() {
         QWidget* const widget = QApplication::focusWidget();
         if (const auto* const button = qobject_cast<QAbstractButton*>(widget)) {
             return button->text().isEmpty() ? "switch" : button->text().toStdString();
+        }
+        if (const auto* const label = qobject_cast<QLabel*>(widget)) {
+            return label->text().toStdString();
         }
         return widget == nullptr ? "nothing" : "something else";
     }
@@ -40,19 +59,87 @@ TEST_F(Keyboard, ReturnPressesTheDefaultButtonAndEscapeTheWayOut) {
                                recorded(Action::uninstallClicked), recorded(Action::quit)}));
 }
 
-TEST_F(Keyboard, ReturnPressesTheDefaultButtonWhereverTheFocusIs) {
+TEST_F(Keyboard, ReturnPressesThePushButtonThatHasTheFocus) {
     render(test::readyPage());
-    for (PushButton* const button : test::widgets<PushButton>(window)) {
-        recordedActions.clear();
-        button->setFocus();
-        press(Qt::Key_Return);
-        EXPECT_EQ(recordedActions, RecordedActions{recorded(Action::uninstallClicked)})
-            << button->text().toStdString();
+    for (const auto& [text, action] : {std::pair{"Quit", Action::quit},
+                                       {"Uninstall", Action::uninstallClicked},
+                                       {"Hide folders", Action::toggleFolders}}) {
+        for (const Qt::Key key : {Qt::Key_Return, Qt::Key_Enter}) {
+            recordedActions.clear();
+            seen<PushButton>(text)->setFocus();
+            press(key);
+            EXPECT_EQ(recordedActions, RecordedActions{recorded(action)}) << text;
+        }
     }
-    recordedActions.clear();
+}
+
+TEST_F(Keyboard, ReturnUnfoldsTheDetailsThatHaveTheFocus) {
+    render(test::finishedPage());
+    firstSeen<Disclosure>()->setFocus();
+    press(Qt::Key_Return);
+    EXPECT_EQ(recordedActions, RecordedActions{recorded(Action::toggleDetails)});
+}
+
+TEST_F(Keyboard, ReturnOnWhatIsNoPushButtonPressesTheDefaultButton) {
+    render(test::readyPage());
     firstSeen<CheckBox>()->setFocus();
     press(Qt::Key_Return);
+    firstSeen<ToggleSwitch>()->setFocus();
+    press(Qt::Key_Return);
+    EXPECT_EQ(recordedActions, (RecordedActions{recorded(Action::uninstallClicked),
+                                                recorded(Action::uninstallClicked)}));
+}
+
+TEST_F(Keyboard, TheHighlightIsOnTheButtonThatReturnPresses) {
+    render(test::readyPage());
+    EXPECT_EQ(highlighted(), Texts{"Uninstall"});
+    seen<PushButton>("Quit")->setFocus();
+    settle();
+    EXPECT_EQ(highlighted(), Texts{"Quit"});
+    seen<PushButton>("Hide folders")->setFocus();
+    settle();
+    EXPECT_EQ(highlighted(), Texts{"Hide folders"});
+    firstSeen<CheckBox>()->setFocus();
+    settle();
+    EXPECT_EQ(highlighted(), Texts{"Uninstall"});
+    render(test::finishedPage());
+    EXPECT_EQ(highlighted(), Texts{"Quit"});
+    firstSeen<Disclosure>()->setFocus();
+    settle();
+    EXPECT_EQ(highlighted(), Texts{}) << "Return unfolds the details";
+}
+
+TEST_F(Keyboard, AButtonThatComesToStandForAnotherKeepsNoFocus) {
+    render(test::finishedPage());
+    PushButton* const button = seen<PushButton>("Try Again");
+    button->setFocus();
+    render(test::readyPage());
+    ASSERT_EQ(button->text(), "Quit");
+    EXPECT_EQ(highlighted(), Texts{"Uninstall"});
+    press(Qt::Key_Return);
     EXPECT_EQ(recordedActions, RecordedActions{recorded(Action::uninstallClicked)});
+}
+
+TEST_F(Keyboard, WhatHadTheFocusAndIsGoneLeavesItToNoButton) {
+    render(test::readyPage());
+    seen<PushButton>("Uninstall")->setFocus();
+    render(test::confirmingPage());
+    seen<PushButton>("Uninstall and Delete Data")->setFocus();
+    render(test::workingPage());
+    render(test::finishedPage());
+    EXPECT_EQ(highlighted(), Texts{"Quit"});
+    press(Qt::Key_Return);
+    EXPECT_EQ(recordedActions, RecordedActions{recorded(Action::quit)});
+}
+
+TEST_F(Keyboard, OverTheQuestionReturnAndTheHighlightStayWithTheWayOut) {
+    render(test::confirmingPage());
+    EXPECT_EQ(highlighted(), Texts{"Cancel"});
+    press(Qt::Key_Tab);
+    ASSERT_EQ(focused(), "Uninstall and Delete Data");
+    EXPECT_EQ(highlighted(), Texts{"Cancel"});
+    press(Qt::Key_Return);
+    EXPECT_EQ(recordedActions, RecordedActions{recorded(Action::dismissConfirmation)});
 }
 
 TEST_F(Keyboard, ReturnInTheRecordOfARunPressesTheDefaultButton) {
@@ -116,12 +203,24 @@ TEST_F(Keyboard, SpaceGoesOnOverTheQuestionOnlyOnTheButtonItself) {
 TEST_F(Keyboard, TabGoesThroughThePageFromTopToBottom) {
     render(test::readyPage());
     std::vector<std::string> order;
-    for (int times = 0; times < 7; ++times) {
+    for (int times = 0; times < 8; ++times) {
         press(Qt::Key_Tab);
         order.push_back(focused());
     }
     EXPECT_EQ(order, (std::vector<std::string>{"switch", "Hide folders", "Store", "Logs", "Quit",
-                                               "Uninstall", "switch"}));
+                                               "Uninstall", "Asks for an administrator's password",
+                                               "switch"}));
+}
+
+TEST_F(Keyboard, TheHelpOfANoteIsShownWhileItHasTheFocus) {
+    render(test::readyPage());
+    firstSeen<ToggleSwitch>()->setFocus();
+    press(Qt::Key_Backtab, Qt::ShiftModifier);
+    ASSERT_EQ(focused(), "Asks for an administrator's password");
+    EXPECT_TRUE(QToolTip::isVisible());
+    EXPECT_EQ(QToolTip::text(), "Why.");
+    press(Qt::Key_Tab);
+    EXPECT_TRUE(QTest::qWaitFor([] { return !QToolTip::isVisible(); }));
 }
 
 TEST_F(Keyboard, ControlsThatComeLaterTakeTheirPlaceInTheOrder) {

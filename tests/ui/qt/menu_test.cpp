@@ -19,7 +19,7 @@ protected:
         window.setWindowTitle("Kelmar Uninstaller");
         window.setCentralWidget(text);
         fillMenuBar(*window.menuBar(), mainMenu(),
-                    [this](MenuAction action) { chosen.push_back(action); });
+                    {[this](MenuAction action) { chosen.push_back(action); }});
         window.show();
         window.activateWindow();
         EXPECT_TRUE(QTest::qWaitForWindowActive(&window));
@@ -100,6 +100,16 @@ TEST_F(MainMenu, GreysWhatNothingAnswersTo) {
     Q_EMIT menu(0)->aboutToShow();
     EXPECT_FALSE(item("Hide Others")->isEnabled());
     EXPECT_FALSE(item("Show All")->isEnabled());
+    EXPECT_TRUE(item("Quit Kelmar Uninstaller")->isEnabled());
+}
+
+TEST_F(MainMenu, IsGreyWhereNothingAnswersBeforeItWasEverOpened) {
+    EXPECT_FALSE(item("Hide Others")->isEnabled());
+    EXPECT_FALSE(item("Show All")->isEnabled());
+    EXPECT_TRUE(item("Quit Kelmar Uninstaller")->isEnabled());
+    Q_EMIT menu(0)->aboutToShow();
+    Q_EMIT menu(0)->aboutToHide();
+    EXPECT_FALSE(item("Hide Others")->isEnabled());
     EXPECT_TRUE(item("Quit Kelmar Uninstaller")->isEnabled());
 }
 
