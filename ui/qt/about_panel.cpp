@@ -10,6 +10,13 @@
 
 namespace kelmar {
 
+namespace {
+
+/// That many, as wide as high, have room beside the title: two on either side of its middle.
+constexpr int frameButtons = 4;
+
+} // namespace
+
 AboutPanel::AboutPanel(QWidget* parent) : QDialog(parent) {
     const About shown = about();
     setWindowTitle(QString::fromStdString(shown.title));
@@ -27,6 +34,11 @@ AboutPanel::AboutPanel(QWidget* parent) : QDialog(parent) {
     column->addWidget(icon, 0, Qt::AlignHCenter);
     column->addWidget(name, 0, Qt::AlignHCenter);
     column->addWidget(version, 0, Qt::AlignHCenter);
+    QFont bold = font(); // as desktops set a title
+    bold.setBold(true);
+    const QFontMetrics title(bold);
+    column->addStrut(title.horizontalAdvance(windowTitle()) + frameButtons * title.height() -
+                     2 * Look::aboutMargin);
     layout()->setSizeConstraint(QLayout::SetFixedSize);
 }
 

@@ -89,8 +89,12 @@ void AppDelegate::timerEvent(QTimerEvent* event) {
         return;
     }
     render_.stop();
-    if (window_ != nullptr) {
-        window_->page().render(view_.page());
+    if (window_ == nullptr) {
+        return;
+    }
+    window_->page().render(view_.page());
+    if (window_->page().isAsking() && about_ != nullptr) {
+        about_->close(); // it would cover the question
     }
 }
 

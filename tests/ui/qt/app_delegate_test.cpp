@@ -2,6 +2,7 @@
 #include "tests/support/mac_tree.hpp"
 #include "tests/support/temporary_folder.hpp"
 #include "tests/ui/qt/widgets.hpp"
+#include "ui/qt/about_panel.hpp"
 #include "ui/qt/app_delegate.hpp"
 #include "ui/qt/check_box.hpp"
 #include "ui/qt/page.hpp"
@@ -12,6 +13,7 @@
 #include <gtest/gtest.h>
 
 #include <QApplication>
+#include <QMenuBar>
 #include <QTest>
 #include <atomic>
 #include <filesystem>
@@ -54,6 +56,17 @@ protected:
 
     [[nodiscard]] bool waitFor(const QString& text) const {
         return QTest::qWaitFor([this, &text] { return shows(text); }, 20'000);
+    }
+
+    /// The panel about the program, while it is to be seen.
+    [[nodiscard]] static AboutPanel* about() {
+        for (QWidget* const each : QApplication::topLevelWidgets()) {
+            if (auto* const panel = dynamic_cast<AboutPanel*>(each);
+                panel != nullptr && panel->isVisible()) {
+                return panel;
+            }
+        }
+        return nullptr;
     }
 
     void click(const QString& text) const {
@@ -185,6 +198,39 @@ TEST_F(Application, DrawsManyChangesAtOnce) {
     }
     QTest::qWait(50);
     EXPECT_LE(delegate->window()->page().changes() - before, 1U);
+}
+
+TEST_F(Application, OpensNoAboutOverTheQuestion) {
+    test::MacTree(folder.path()).everything();
+    launch();
+    ASSERT_TRUE(waitFor("Found on this Mac"));
+    QMenu& menu = *delegate->window()->menuBar()->actions().first()->menu();
+    menu.actions().first()->trigger();
+    ASSERT_TRUE(QTest::qWaitFor([] { return about() != nullptr; }));
+    click("Uninstall");
+    ASSERT_TRUE(QTest::qWaitFor([this] { return button("Cancel") != nullptr; }));
+    EXPECT_EQ(about(), nullptr) << "it would cover the question";
+    menu.actions().first()->trigger();
+    EXPECT_EQ(about(), nullptr);
+    menu.popup(QPoint());
+    EXPECT_FALSE(menu.actions().first()->isEnabled());
+    menu.close();
+    click("Cancel");
+    ASSERT_TRUE(QTest::qWaitFor([this] { return button("Cancel") == nullptr; }));
+    menu.actions().first()->trigger();
+    EXPECT_NE(about(), nullptr);
+}
+
+TEST(About, HasRoomForItsWholeTitle) {
+    QWidget parent;
+    auto& panel = *new AboutPanel(&parent);
+    panel.show();
+    QFont bold = panel.font();
+    bold.setBold(true);
+    // A desktop's frame has a button, which is as wide as high, on one side of a title in its
+    // middle.
+    const QFontMetrics metrics(bold);
+    EXPECT_GE(panel.width(), metrics.horizontalAdvance(panel.windowTitle()) + 4 * metrics.height());
 }
 
 } // namespace
