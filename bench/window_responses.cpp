@@ -194,8 +194,8 @@ public:
 };
 
 LogView* recordOf(const AppDelegate& delegate) {
-    for (QPlainTextEdit* const text : delegate.window()->findChildren<QPlainTextEdit*>()) {
-        if (auto* const view = dynamic_cast<LogView*>(text)) {
+    for (QWidget* const each : delegate.window()->findChildren<QWidget*>()) {
+        if (auto* const view = dynamic_cast<LogView*>(each)) {
             return view;
         }
     }
@@ -236,7 +236,7 @@ void measureRecord(PaintedApplication& application, const KelmarPaths& paths) {
     application.stopWatching();
     const MemoryUse after = memoryUse(::getpid());
     require(published.log.size() == LongRecord::lines &&
-                recordOf(*delegate)->blockCount() == LongRecord::lines,
+                recordOf(*delegate)->text().lineCount() == LongRecord::lines,
             "every line of the record is shown");
 
     constexpr double mebibyte = 1024 * 1024;

@@ -2,6 +2,7 @@
 
 #include "system/text/harmless_text.hpp"
 #include "ui/look.hpp"
+#include "ui/qt/log_accessibility.hpp"
 
 #include <QAbstractButton>
 #include <QAccessibleWidget>
@@ -115,6 +116,7 @@ QAccessibleInterface* interfaceFor(const QString& /*className*/, QObject* object
 
 void installAccessibleRoles() {
     QAccessible::installFactory(interfaceFor);
+    installAccessibleLog();
 }
 
 void setAccessibleRole(QWidget& widget, QAccessible::Role role) {

@@ -36,7 +36,9 @@ DetailsWidget::DetailsWidget(const std::function<void(Action)>& perform, QWidget
 void DetailsWidget::render(const Details& details) {
     toggle_->render(details.toggle, details.shown);
     log_->setAccessibleName(QString::fromStdString(details.toggle.text));
-    log_->render(details.log);
+    if (details.shown) {
+        log_->render(details.log); // folded, it keeps what is read and selected in it
+    }
     frame_->setVisible(details.shown);
 }
 

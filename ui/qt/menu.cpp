@@ -1,18 +1,18 @@
 #include "ui/qt/menu.hpp"
 
+#include "ui/qt/log_view.hpp"
 #include "ui/qt/selectable_text.hpp"
 
 #include <QApplication>
 #include <QMenu>
-#include <QPlainTextEdit>
 
 namespace kelmar {
 
 namespace {
 
 /// The window's text that has the focus; its selection is what can be copied.
-QPlainTextEdit* focusedText() {
-    return qobject_cast<QPlainTextEdit*>(QApplication::focusWidget());
+LogView* focusedText() {
+    return dynamic_cast<LogView*>(QApplication::focusWidget());
 }
 
 /// The text of the page that has the focus, where that is not one of many lines.
@@ -28,7 +28,7 @@ bool isNeverAnswered(MenuAction action) {
 /// Whether there is anything that answers to the action now.
 bool isAnswered(MenuAction action, const MenuActions& actions) {
     if (action == MenuAction::copy) {
-        return (focusedText() != nullptr && focusedText()->textCursor().hasSelection()) ||
+        return (focusedText() != nullptr && focusedText()->hasSelection()) ||
                (focusedLabel() != nullptr && !focusedLabel()->selected().isEmpty());
     }
     if (action == MenuAction::selectAll) {

@@ -24,6 +24,8 @@ set(qt_sources
     found_section.cpp
     header.cpp
     icon.cpp
+    log_accessibility.cpp
+    log_text.cpp
     log_view.cpp
     main_window.cpp
     menu.cpp

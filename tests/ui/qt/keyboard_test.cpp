@@ -2,10 +2,10 @@
 #include "ui/qt/check_box.hpp"
 #include "ui/qt/colours.hpp"
 #include "ui/qt/disclosure.hpp"
+#include "ui/qt/log_view.hpp"
 #include "ui/qt/push_button.hpp"
 #include "ui/qt/toggle_switch.hpp"
 
-#include <QPlainTextEdit>
 #include <QToolTip>
 
 namespace kelmar {
@@ -144,7 +144,7 @@ TEST_F(Keyboard, OverTheQuestionReturnAndTheHighlightStayWithTheWayOut) {
 
 TEST_F(Keyboard, ReturnInTheRecordOfARunPressesTheDefaultButton) {
     render(test::finishedPage(LogLines({"one"}), true));
-    window.findChild<QPlainTextEdit*>()->setFocus();
+    firstSeen<LogView>()->setFocus();
     press(Qt::Key_Return);
     EXPECT_EQ(recordedActions, RecordedActions{recorded(Action::quit)});
 }

@@ -1,3 +1,4 @@
+#include "ui/qt/log_view.hpp"
 #include "ui/qt/menu.hpp"
 
 #include <gtest/gtest.h>
@@ -5,7 +6,6 @@
 #include <QApplication>
 #include <QClipboard>
 #include <QMainWindow>
-#include <QPlainTextEdit>
 #include <QTest>
 #include <string>
 #include <vector>
@@ -23,8 +23,7 @@ protected:
         window.show();
         window.activateWindow();
         EXPECT_TRUE(QTest::qWaitForWindowActive(&window));
-        text->setPlainText("a record");
-        text->setReadOnly(true);
+        text->render(LogLines({"a record"}));
     }
 
     [[nodiscard]] QMenu* menu(int index) const {
@@ -43,7 +42,7 @@ protected:
     }
 
     QMainWindow window;
-    QPlainTextEdit* text = new QPlainTextEdit;
+    LogView* text = new LogView;
     std::vector<MenuAction> chosen;
 };
 
@@ -78,7 +77,7 @@ TEST_F(MainMenu, GivesTheApplicationWhatIsTheApplications) {
 TEST_F(MainMenu, CopiesAndSelectsInTheTextThatHasTheFocus) {
     text->setFocus();
     item("Select All")->trigger();
-    EXPECT_EQ(text->textCursor().selectedText(), "a record");
+    EXPECT_EQ(text->selectedText(), "a record");
     item("Copy")->trigger();
     EXPECT_EQ(QGuiApplication::clipboard()->text(), "a record");
     EXPECT_EQ(chosen, std::vector<MenuAction>{});

@@ -6,7 +6,6 @@
 
 #include <QScrollArea>
 #include <QScrollBar>
-#include <QTextBlock>
 #include <set>
 
 namespace kelmar {
@@ -121,22 +120,36 @@ TEST_F(Update, KeepsTheSelectionAndThePlaceInTheDetails) {
     LogLines log = test::removedLines(300);
     render(test::workingPage(log, true));
     LogView& view = *firstSeen<LogView>();
-    QTextCursor cursor(view.document()->findBlockByNumber(20));
-    cursor.movePosition(QTextCursor::Down, QTextCursor::KeepAnchor, 5);
-    view.setTextCursor(cursor);
+    view.select({20, 4}, {25, 3});
     view.verticalScrollBar()->setValue(15);
-    const QString selected = view.textCursor().selectedText();
+    const QString selected = view.selectedText();
     ASSERT_FALSE(selected.isEmpty());
     for (int times = 0; times < 20; ++times) {
         log.append("one more");
         render(test::workingPage(log, true));
     }
-    EXPECT_EQ(view.textCursor().selectedText(), selected);
+    EXPECT_EQ(view.selectedText(), selected);
     EXPECT_EQ(view.verticalScrollBar()->value(), 15);
     render(test::finishedPage(log, true));
     EXPECT_EQ(firstSeen<LogView>(), &view) << "the details live on when the run is over";
-    EXPECT_EQ(view.textCursor().selectedText(), selected);
+    EXPECT_EQ(view.selectedText(), selected);
     EXPECT_EQ(view.verticalScrollBar()->value(), 15);
+}
+
+TEST_F(Update, KeepsTheSelectionAndThePlaceWhileTheDetailsAreFolded) {
+    LogLines log = test::removedLines(300);
+    render(test::workingPage(log, true));
+    LogView& view = *firstSeen<LogView>();
+    view.select({20, 4}, {25, 3});
+    view.verticalScrollBar()->setValue(15);
+    const QString selected = view.selectedText();
+    render(test::workingPage({}, false));
+    ASSERT_FALSE(view.isVisible());
+    log.append("one more");
+    render(test::workingPage(log, true));
+    EXPECT_EQ(view.selectedText(), selected);
+    EXPECT_EQ(view.verticalScrollBar()->value(), 15);
+    EXPECT_EQ(view.text().lineCount(), 301U);
 }
 
 TEST_F(Update, KeepsASelectionOfEverythingAtWhatWasThere) {
@@ -144,10 +157,10 @@ TEST_F(Update, KeepsASelectionOfEverythingAtWhatWasThere) {
     render(test::workingPage(log, true));
     LogView& view = *firstSeen<LogView>();
     view.selectAll();
-    const QString selected = view.textCursor().selectedText();
+    const QString selected = view.selectedText();
     log.append("one more");
     render(test::workingPage(log, true));
-    EXPECT_EQ(view.textCursor().selectedText(), selected);
+    EXPECT_EQ(view.selectedText(), selected);
 }
 
 TEST_F(Update, StaysAtTheEndOfTheDetailsForWhoReadsThere) {
@@ -160,7 +173,7 @@ TEST_F(Update, StaysAtTheEndOfTheDetailsForWhoReadsThere) {
     }
     render(test::workingPage(log, true));
     EXPECT_EQ(view.verticalScrollBar()->value(), view.verticalScrollBar()->maximum());
-    EXPECT_FALSE(view.textCursor().hasSelection());
+    EXPECT_FALSE(view.hasSelection());
 }
 
 TEST_F(Update, StaysAtTheEndOfTheDetailsWhenTheirHeightChanges) {

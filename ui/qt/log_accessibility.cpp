@@ -1,0 +1,159 @@
+#include "ui/qt/log_accessibility.hpp"
+
+#include "ui/qt/log_view.hpp"
+
+#include <QAccessibleWidget>
+#include <QTextBoundaryFinder>
+#include <algorithm>
+
+namespace kelmar {
+
+namespace {
+
+/// The record as a text of many lines. The toolkit's own answers to what surrounds a place take a
+/// copy of the whole text each; these look at one line.
+class AccessibleLog : public QAccessibleWidget, public QAccessibleTextInterface {
+public:
+    explicit AccessibleLog(LogView& view)
+        : QAccessibleWidget(&view, QAccessible::EditableText),
+          view_(view) {}
+
+    void* interface_cast(QAccessible::InterfaceType type) override {
+        return type == QAccessible::TextInterface ? static_cast<QAccessibleTextInterface*>(this)
+                                                  : QAccessibleWidget::interface_cast(type);
+    }
+
+    [[nodiscard]] QAccessible::State state() const override {
+        QAccessible::State state = QAccessibleWidget::state();
+        state.readOnly = true;
+        state.multiLine = true;
+        state.selectableText = true;
+        return state;
+    }
+
+    [[nodiscard]] int selectionCount() const override { return view_.hasSelection() ? 1 : 0; }
+
+    void selection(int index, int* start, int* end) const override {
+        const auto [from, to] = std::minmax(view_.anchor(), view_.cursor());
+        const bool any = index == 0 && from < to;
+        *start = any ? text().offsetOf(from) : 0;
+        *end = any ? text().offsetOf(to) : 0;
+    }
+
+    void addSelection(int start, int end) override { setSelection(0, start, end); }
+
+    void setSelection(int /*index*/, int start, int end) override {
+        view_.select(text().placeOf(start), text().placeOf(end));
+    }
+
+    void removeSelection(int /*index*/) override { view_.select(view_.cursor(), view_.cursor()); }
+
+    [[nodiscard]] int cursorPosition() const override { return text().offsetOf(view_.cursor()); }
+
+    void setCursorPosition(int offset) override {
+        const LogText::Place place = text().placeOf(offset);
+        view_.select(place, place);
+        scrollToSubstring(offset, offset);
+    }
+
+    [[nodiscard]] QString text(int start, int end) const override {
+        return text().text(text().placeOf(start), text().placeOf(std::max(start, end)));
+    }
+
+    [[nodiscard]] int characterCount() const override { return text().offsetOf(text().end()); }
+
+    [[nodiscard]] QRect characterRect(int offset) const override {
+        const QRect inside = view_.placeInViewport(text().placeOf(offset));
+        return {view_.viewport()->mapToGlobal(inside.topLeft()), inside.size()};
+    }
+
+    [[nodiscard]] int offsetAtPoint(const QPoint& point) const override {
+        return text().offsetOf(view_.placeAt(view_.viewport()->mapFromGlobal(point)));
+    }
+
+    void scrollToSubstring(int start, int /*end*/) override {
+        if (text().lineCount() != 0) {
+            view_.bringIntoSight(text().placeOf(start));
+        }
+    }
+
+    [[nodiscard]] QString attributes(int /*offset*/, int* start, int* end) const override {
+        *start = 0;
+        *end = characterCount();
+        return {};
+    }
+
+    [[nodiscard]] QString textAtOffset(int offset, QAccessible::TextBoundaryType boundary,
+                                       int* start, int* end) const override {
+        *start = 0;
+        *end = characterCount();
+        if (boundary != QAccessible::NoBoundary) {
+            const LogText::Place place = text().placeOf(offset);
+            const auto [from, to] = around(place, boundary);
+            const int line = offset - place.column;
+            *start = std::min(line + from, *end);
+            *end = std::min(line + to, *end);
+        }
+        return text(*start, *end);
+    }
+
+    [[nodiscard]] QString textBeforeOffset(int offset, QAccessible::TextBoundaryType boundary,
+                                           int* start, int* end) const override {
+        textAtOffset(offset, boundary, start, end);
+        return *start == 0 ? nothing(start, end) : textAtOffset(*start - 1, boundary, start, end);
+    }
+
+    [[nodiscard]] QString textAfterOffset(int offset, QAccessible::TextBoundaryType boundary,
+                                          int* start, int* end) const override {
+        textAtOffset(offset, boundary, start, end);
+        return *end == characterCount() ? nothing(start, end)
+                                        : textAtOffset(*end, boundary, start, end);
+    }
+
+private:
+    struct Columns {
+        int from;
+        int to;
+    };
+
+    [[nodiscard]] const LogText& text() const { return view_.text(); }
+
+    static QString nothing(int* start, int* end) {
+        *start = -1;
+        *end = -1;
+        return {};
+    }
+
+    /// What `place` is in, within its line and the line feed after it.
+    [[nodiscard]] Columns around(LogText::Place place,
+                                 QAccessible::TextBoundaryType boundary) const {
+        const QString line = (text().lineCount() == 0 ? QString() : text().line(place.line)) + '\n';
+        const auto whole = static_cast<int>(line.size());
+        if (boundary != QAccessible::CharBoundary && boundary != QAccessible::WordBoundary) {
+            return {0, whole};
+        }
+        QTextBoundaryFinder finder(boundary == QAccessible::WordBoundary
+                                       ? QTextBoundaryFinder::Word
+                                       : QTextBoundaryFinder::Grapheme,
+                                   line);
+        finder.setPosition(place.column);
+        const auto to = static_cast<int>(finder.toNextBoundary());
+        const auto from = static_cast<int>(finder.toPreviousBoundary());
+        return {std::max(from, 0), to < 0 ? whole : to};
+    }
+
+    LogView& view_;
+};
+
+QAccessibleInterface* interfaceFor(const QString& /*className*/, QObject* object) {
+    auto* const view = dynamic_cast<LogView*>(object);
+    return view == nullptr ? nullptr : new AccessibleLog(*view);
+}
+
+} // namespace
+
+void installAccessibleLog() {
+    QAccessible::installFactory(interfaceFor);
+}
+
+} // namespace kelmar

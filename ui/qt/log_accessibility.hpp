@@ -1,0 +1,9 @@
+#pragma once
+
+namespace kelmar {
+
+/// Lets screen readers read and select the text of a `LogView`. Called once, before the first
+/// window.
+void installAccessibleLog();
+
+} // namespace kelmar
