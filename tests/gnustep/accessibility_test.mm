@@ -1,5 +1,6 @@
 #include "system/text/foundation_text_macos.hpp"
 #include "tests/gnustep/harness/page_fixture.hpp"
+#include "tests/gnustep/harness/page_texts.hpp"
 #include "tests/gnustep/harness/sample_pages.hpp"
 
 #include <algorithm>
@@ -17,8 +18,9 @@ protected:
     [[nodiscard]] Names names() const {
         Names all;
         for (NSView* const view : test::seenViews(page)) {
-            if ([view isAccessibilityElement] && [[view accessibilityLabel] length] > 0) {
-                all.insert(plainText([view accessibilityLabel]));
+            id const told = test::exposed(view);
+            if ([told isAccessibilityElement] && [[told accessibilityLabel] length] > 0) {
+                all.insert(plainText([told accessibilityLabel]));
             }
         }
         return all;
@@ -41,14 +43,15 @@ private:
 TEST_F(Accessibility, TheSwitchIsNamedByItsLabelAndHelpedByItsLine) {
     render(test::readyPage());
     NSSwitch* const toggle = test::firstSeen<NSSwitch>(page);
-    EXPECT_EQ(plainText([toggle accessibilityLabel]), "Delete Kelmar data");
-    EXPECT_EQ(plainText([toggle accessibilityHelp]),
+    EXPECT_EQ(plainText([test::exposed(toggle) accessibilityLabel]), "Delete Kelmar data");
+    EXPECT_EQ(plainText([test::exposed(toggle) accessibilityHelp]),
               "Cases, imported documents, exports, AI models and logs. You can't undo this.");
 }
 
 TEST_F(Accessibility, ACheckBoxSaysWhatItsFolderHolds) {
     render(test::foldersPage());
-    EXPECT_EQ(plainText([seen<NSButton>("Store") accessibilityHelp]), "What is in Store");
+    EXPECT_EQ(plainText([test::exposed(seen<NSButton>("Store")) accessibilityHelp]),
+              "What is in Store");
 }
 
 TEST_F(Accessibility, ASizeSaysWhatItIsTheSizeOf) {
@@ -74,7 +77,8 @@ TEST_F(Accessibility, IconsThatSayNothingArePassedOver) {
     for (const auto& [name, shown] : test::everyPage()) {
         render(shown);
         for (NSImageView* const view : test::allSeen<NSImageView>(page)) {
-            EXPECT_TRUE(![view isAccessibilityElement] || [[view accessibilityLabel] length] > 0)
+            id const told = test::exposed(view);
+            EXPECT_TRUE(![told isAccessibilityElement] || [[told accessibilityLabel] length] > 0)
                 << name;
         }
     }
@@ -92,8 +96,9 @@ TEST_F(Accessibility, EveryControlHasAName) {
         for (NSView* const view : test::seenViews(page)) {
             const bool isControl =
                 [view isKindOfClass:[NSButton class]] || [view isKindOfClass:[NSSwitch class]];
-            if (isControl && [view isAccessibilityElement]) {
-                EXPECT_TRUE(!test::textOf(view).empty() || [[view accessibilityLabel] length] > 0)
+            if (isControl && [test::exposed(view) isAccessibilityElement]) {
+                EXPECT_TRUE(!test::textOf(view).empty() ||
+                            [[test::exposed(view) accessibilityLabel] length] > 0)
                     << name << ": " << [[view description] UTF8String];
             }
         }
@@ -102,8 +107,82 @@ TEST_F(Accessibility, EveryControlHasAName) {
 
 TEST_F(Accessibility, AHelpfulNoteSaysItsHelp) {
     render(test::readyPage());
-    EXPECT_EQ(plainText([seen<NSTextField>("Kelmar is open and will be closed") accessibilityHelp]),
+    EXPECT_EQ(plainText([test::exposed(seen<NSTextField>("Kelmar is open and will be closed"))
+                  accessibilityHelp]),
               "Any job Kelmar is running stops.");
+}
+
+TEST_F(Accessibility, TheSwitchsNameIsSaidOnce) {
+    render(test::readyPage());
+    EXPECT_FALSE([test::exposed(seen<NSTextField>("Delete Kelmar data")) isAccessibilityElement]);
+    EXPECT_EQ(names().count("Delete Kelmar data"), 1U);
+}
+
+TEST_F(Accessibility, NamesAreAsHarmlessAsWhatIsDrawn) {
+    Page shown = test::foldersPage();
+    std::get<ReadyContent>(shown.content).data->lists.at(0).rows.at(0).size.of = "\u202Esdr\x1B";
+    render(shown);
+    EXPECT_EQ(names().count("\uFFFDsdr\u241B, 1.5 MB"), 1U) << testing::PrintToString(names());
+}
+
+TEST_F(Accessibility, WhatBeginsAPartOfThePageIsAHeading) {
+    using Headings = std::vector<std::string>;
+    const auto headings = [this] {
+        Headings all;
+        for (NSTextField* const label : test::allSeen<NSTextField>(page)) {
+            if ([[test::exposed(label) accessibilityRole] isEqualToString:@"AXHeading"]) {
+                all.push_back(test::textOf(label));
+            }
+        }
+        return all;
+    };
+    render(test::readyPage());
+    EXPECT_EQ(headings(), (Headings{"Uninstall Kelmar", "Found on this Mac", "Your data"}));
+    render(test::problemsPage());
+    EXPECT_EQ(headings(), (Headings{"Kelmar wasn't completely removed", "Not removed"}));
+}
+
+TEST_F(Accessibility, TheDetailsSayWhetherTheyAreUnfolded) {
+    const auto unfolded = [this] {
+        for (NSButton* const each : test::allSeen<NSButton>(page)) {
+            id const told = test::exposed(each);
+            if ([[told accessibilityLabel] isEqualToString:@"Details"]) {
+                return [told isAccessibilityExpanded] == YES;
+            }
+        }
+        ADD_FAILURE() << "no control of that name";
+        return false;
+    };
+    render(test::workingPage());
+    EXPECT_FALSE(unfolded());
+    render(test::workingPage({}, true));
+    EXPECT_TRUE(unfolded());
+}
+
+/// Views stay from page to page, and those that a later one needs are made then.
+TEST_F(Accessibility, ViewsStandInTheOrderOfThePage) {
+    std::vector<std::pair<std::string, Page>> pages = test::everyPage();
+    for (const std::size_t again : {2U, 6U, 3U, 4U, 10U}) {
+        pages.push_back(pages.at(again));
+    }
+    for (const auto& [name, shown] : pages) {
+        render(shown);
+        std::vector<std::string> expected = test::textsAbove(shown);
+        const std::vector<std::string> footer = test::textsOfFooter(shown.footer);
+        expected.insert(expected.end(), footer.begin(), footer.end());
+        EXPECT_EQ(test::textsInOrderOfViews(page), expected) << name;
+    }
+}
+
+TEST_F(Accessibility, ANoticeIsAnnouncedWithItsPage) {
+    render(test::workingPage());
+    render(test::noticePage());
+    const Page shown = test::noticePage();
+    EXPECT_EQ(announced().count(shown.header.announcement() +
+                                " The administrator's password was not entered. Nothing was "
+                                "removed."),
+              1U)
+        << testing::PrintToString(announced());
 }
 
 TEST_F(Accessibility, ANewPhaseIsAnnouncedOnce) {

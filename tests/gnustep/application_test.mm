@@ -68,6 +68,20 @@ TEST_F(WholeRun, KeepsTheMacAwakeAsLongAsItTakes) {
     EXPECT_EQ(KelmarActivities().underWay, 0);
 }
 
+TEST_F(WholeRun, LaysNoPanelOverTheQuestion) {
+    launchAndFind();
+    NSMenu* const menu = [[[NSApp mainMenu] itemAtIndex:0] submenu];
+    [menu update];
+    EXPECT_TRUE([[menu itemAtIndex:0] isEnabled]);
+    askToUninstall();
+    [menu update];
+    EXPECT_FALSE([[menu itemAtIndex:0] isEnabled]) << "About";
+    answerWith("Cancel");
+    ASSERT_TRUE(test::eventually([this] { return question() == nil; }));
+    [menu update];
+    EXPECT_TRUE([[menu itemAtIndex:0] isEnabled]);
+}
+
 TEST_F(WholeRun, DoesNothingWhenTheQuestionIsCancelled) {
     launchAndFind();
     const auto before = test::snapshot(folder.path());

@@ -41,6 +41,14 @@ TEST_F(Log, AddsWhatIsNew) {
     EXPECT_EQ(shown(), "one\ntwo\nthree");
 }
 
+TEST_F(Log, ShowsNamesOfFilesAsHarmlessAsThePageDoes) {
+    LogLines log({"Removed a\nb"});
+    show(log);
+    log.append("\u202Egpj.\x1B[31m");
+    show(log);
+    EXPECT_EQ(shown(), "Removed a\u240Ab\n\uFFFDgpj.\u241B[31m");
+}
+
 TEST_F(Log, BeginsAnewWithAnotherRun) {
     show(LogLines({"one", "two"}));
     show(LogLines({"three", "four", "five"}));

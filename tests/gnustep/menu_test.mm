@@ -42,7 +42,7 @@ protected:
 TEST_F(MainMenu, IsTheTableAndNothingElse) {
     launch();
     ASSERT_EQ([[NSApp mainMenu] numberOfItems], 3);
-    EXPECT_EQ(lines(0), (Lines{"About Kelmar Uninstaller, orderFrontStandardAboutPanel:", "-",
+    EXPECT_EQ(lines(0), (Lines{"About Kelmar Uninstaller, showAboutPanel:", "-",
                                "Hide Kelmar Uninstaller, hide:, command h",
                                "Hide Others, hideOtherApplications:, option command h",
                                "Show All, unhideAllApplications:", "-",

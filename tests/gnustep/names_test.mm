@@ -34,14 +34,12 @@ protected:
         expectSeen(name, 3);
     }
 
-    /// So many views show it, each without anything of it missing, inside the window: labels in its
-    /// harmless form, the record as it is.
+    /// So many views show it in its harmless form, each without anything of it missing, inside the
+    /// window.
     void expectSeen(const std::string& name, int times) {
         int seen = 0;
         for (NSView* const view : test::seenViews(page)) {
-            const bool isRecord = [view isKindOfClass:[NSTextView class]];
-            const std::string wanted = isRecord ? name : harmlessText(name);
-            seen += test::textOf(view) == plainText(foundationText(wanted)) ? 1 : 0;
+            seen += test::textOf(view) == plainText(foundationText(harmlessText(name))) ? 1 : 0;
             EXPECT_LE(NSMaxX(test::placeInWindow(view)), 600) << test::textOf(view);
         }
         EXPECT_EQ(seen, times) << name;

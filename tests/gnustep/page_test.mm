@@ -4,6 +4,7 @@
 #include "tests/gnustep/harness/sample_pages.hpp"
 #include "tests/gnustep/harness/screenshot.hpp"
 #include "ui/appkit/footer.h"
+#include "ui/look.hpp"
 
 #include <algorithm>
 
@@ -124,6 +125,33 @@ TEST_F(PageView, ButtonsStandInThePagesOrderAtTheTrailingSide) {
     EXPECT_LT(NSMaxX(test::placeInWindow(quit)), NSMinX(test::placeInWindow(uninstall)));
     EXPECT_GT(NSMaxX(test::placeInWindow(uninstall)), 600 - 30);
     EXPECT_EQ(NSMidY(test::placeInWindow(quit)), NSMidY(test::placeInWindow(uninstall)));
+}
+
+/// Push buttons keep room around themselves, which is not to be seen.
+TEST_F(PageView, ButtonsLineUpWithTheMarginsAndNotTheRoomAroundThem) {
+    render(test::readyPage());
+    const auto edges = [](NSView* view) {
+        return test::placeInWindow(view, [view alignmentRectForFrame:[view frame]]);
+    };
+    EXPECT_EQ(NSMaxX(edges(seen<NSButton>("Uninstall"))), 600 - Look::pageMargin);
+    EXPECT_EQ(NSMinX(edges(seen<NSButton>("Choose folders"))),
+              NSMinX(test::placeInWindow(seen<NSTextField>("Delete Kelmar data"))));
+    EXPECT_EQ(NSMinX(edges(seen<NSButton>("Uninstall"))) - NSMaxX(edges(seen<NSButton>("Quit"))),
+              Look::buttonGap);
+}
+
+TEST_F(PageView, AnAppThatWasReplacedBetweenTwoScansHasItsNewIcon) {
+    render(test::readyPage());
+    NSImageView* const icon = test::firstSeen<NSImageView>(part<KelmarContentView>());
+    ASSERT_NE([icon image], nil);
+    [icon setImage:nil];
+    Page shown = test::readyPage();
+    std::get<ReadyContent>(shown.content).data->line = "another";
+    render(shown);
+    EXPECT_EQ([icon image], nil) << "a page of the same scan asks for no icon again";
+    render(test::scanningPage());
+    render(test::readyPage());
+    EXPECT_NE([icon image], nil);
 }
 
 TEST_F(PageView, NothingReachesBeyondTheWindowsSides) {

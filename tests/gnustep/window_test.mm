@@ -30,6 +30,11 @@ TEST_F(Window, StandsInTheMiddle) {
     EXPECT_TRUE(NSContainsRect(screen, frame));
 }
 
+TEST_F(Window, HasNoTabs) {
+    launch();
+    EXPECT_FALSE([NSWindow allowsAutomaticWindowTabbing]);
+}
+
 TEST_F(Window, HasTheKeyboard) {
     launch();
     EXPECT_TRUE(test::eventually([this] { return [window() isKeyWindow] == YES; }));

@@ -22,6 +22,9 @@ struct WindowState;
 - (kelmar::UninstallerModel&)model;
 - (kelmar::UninstallerView&)view;
 
+/// Not while the question is open, over which the panel would lie.
+- (void)showAboutPanel:(id)sender;
+
 /// Nil until the application has finished launching.
 - (NSWindow*)window;
 

@@ -88,6 +88,8 @@ NSWindow* makeWindow() {
 - (void)applicationDidFinishLaunching:(NSNotification*)notification {
     static_cast<void>(notification);
     kelmar::fromToolkit([self] {
+        // A program of one window has no use for tabs, and else gets items for them in its menu.
+        [NSWindow setAllowsAutomaticWindowTabbing:NO];
         kelmar::installMainMenu(NSApp, kelmar::mainMenu());
         [self openWindow];
         [NSApp activateIgnoringOtherApps:YES];
@@ -132,6 +134,16 @@ NSWindow* makeWindow() {
             [state_->sheet.get() render:page.confirmation];
         }
     });
+}
+
+- (void)showAboutPanel:(id)sender {
+    [NSApp orderFrontStandardAboutPanel:sender];
+}
+
+/// Asked for the items that come here, which is the one above.
+- (BOOL)validateMenuItem:(NSMenuItem*)item {
+    static_cast<void>(item);
+    return [state_->sheet.get() alert] != nil ? NO : YES;
 }
 
 - (BOOL)applicationShouldTerminateAfterLastWindowClosed:(NSApplication*)application {

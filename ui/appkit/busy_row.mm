@@ -1,5 +1,6 @@
 #include "ui/appkit/busy_row.h"
 
+#include "ui/appkit/accessible.h"
 #include "ui/appkit/spinner.h"
 #include "ui/look.hpp"
 
@@ -19,7 +20,7 @@
                                            tone:kelmar::TextTone::secondary];
         [self addSubview:spinner_];
         [self addSubview:text_];
-        [spinner_ setAccessibilityElement:NO];
+        kelmar::setAccessible(spinner_, false);
     }
     return self;
 }

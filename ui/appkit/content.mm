@@ -46,7 +46,14 @@ template <typename Block, typename Make>
 Block* shown(ContentBlocks& blocks, NSView* column, Block*& block, const Make& make) {
     if (block == nil) {
         block = make();
-        [column addSubview:block];
+        NSView* before = nil;
+        for (KelmarFlippedView* const each : blocks.inOrder()) {
+            if (each == block) {
+                break;
+            }
+            before = each != nil ? each : before;
+        }
+        insertSubview(column, block, before);
     }
     blocks.used.insert(block);
     return block;
@@ -126,13 +133,17 @@ void renderContent(KelmarContentView* view, const FinishedContent& content) {
 - (void)render:(const kelmar::Content&)content {
     blocks_->used.clear();
     blocks_->unfolded = false;
+    const bool isAnother = std::exchange(blocks_->kind, content.index()) != content.index();
+    if (isAnother) {
+        [blocks_->found forgetIcons]; // between two scans there is another content
+    }
     std::visit([self](const auto& each) { kelmar::renderContent(self, each); }, content);
     // Not one of those that stay is hidden in between: it would lose the keyboard's focus.
     for (KelmarFlippedView* block : blocks_->inOrder()) {
         [block setHidden:blocks_->used.contains(block) ? NO : YES];
     }
     [self layOutColumn];
-    if (std::exchange(blocks_->kind, content.index()) != content.index()) {
+    if (isAnother) {
         [column_ scrollPoint:NSZeroPoint];
     }
 }

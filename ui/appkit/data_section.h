@@ -10,6 +10,7 @@
     KelmarTextLabel* label_;
     KelmarSizeLabel* total_;
     NSSwitch* switch_;
+    BOOL isOn_; ///< as the page says
     KelmarTextLabel* line_;
     KelmarPushButton* folders_;
     NSMutableArray* lists_;

@@ -1,9 +1,11 @@
 #include "ui/appkit/data_section.h"
 
-#include "system/text/foundation_text_macos.hpp"
+#include "ui/appkit/accessible.h"
 #include "ui/appkit/folder_list.h"
 #include "ui/appkit/from_toolkit.hpp"
 #include "ui/appkit/row_list.h"
+#include "ui/appkit/run_loop_modes.h"
+#include "ui/appkit/state.h"
 #include "ui/look.hpp"
 
 #include <algorithm>
@@ -21,6 +23,8 @@
         lists_ = [[NSMutableArray alloc] init];
         label_ = [KelmarTextLabel labelWithStyle:kelmar::TextStyle::body
                                             tone:kelmar::TextTone::primary];
+        // The switch has it for its name.
+        kelmar::setAccessible(label_, false);
         total_ = [KelmarSizeLabel label];
         switch_ = [[[NSSwitch alloc] initWithFrame:NSZeroRect] autorelease];
         [switch_ sizeToFit];
@@ -41,6 +45,7 @@
 
 - (void)dealloc {
     [switch_ setTarget:nil];
+    [NSObject cancelPreviousPerformRequestsWithTarget:self];
     [lists_ release];
     [super dealloc];
 }
@@ -49,22 +54,27 @@
     [self showTitle:section.title.text];
     [label_ showText:section.label];
     [total_ render:section.total];
-    const NSControlStateValue state = section.on ? NSControlStateValueOn : NSControlStateValueOff;
-    if ([switch_ state] != state) {
-        [switch_ setState:state];
-    }
-    [switch_ setAccessibilityLabel:kelmar::foundationText(section.label)];
-    [switch_ setAccessibilityHelp:kelmar::foundationText(section.line)];
+    isOn_ = section.on ? YES : NO;
+    [self showOn];
+    kelmar::setAccessibleName(switch_, section.label);
+    kelmar::setAccessibleHelp(switch_, section.line);
     [line_ showText:section.line];
     [folders_ render:section.folders];
     kelmar::renderRows<KelmarFolderList>(
-        [self card], lists_, section.lists,
+        [self card], folders_, lists_, section.lists,
         [actions = actions_] { return [KelmarFolderList listWithActions:actions]; },
         [](KelmarFolderList* list, const kelmar::FolderList& record) { [list render:record]; });
 }
 
+- (void)showOn {
+    kelmar::setState(switch_, isOn_);
+}
+
+/// As with the boxes of the folders.
 - (void)toggle:(id)sender {
     static_cast<void>(sender);
+    [self performSelector:@selector(showOn) withObject:nil afterDelay:0
+                  inModes:kelmar::everyRunLoopMode()];
     const bool on = [switch_ state] == NSControlStateValueOn;
     kelmar::fromToolkit([actions = actions_, on] { actions->setDeleteAllData(on); });
 }
@@ -72,7 +82,7 @@
 - (CGFloat)layOutCardForWidth:(CGFloat)width {
     using namespace kelmar::Look;
     const CGFloat inside = width - 2 * cardPadding;
-    const NSSize toggle = [switch_ frame].size;
+    const NSSize toggle = kelmar::alignedSize(switch_);
     const CGFloat totalWidth = [total_ naturalWidth];
     const CGFloat labelWidth = inside - toggle.width - totalWidth - 2 * partGap;
     const CGFloat labelHeight = [label_ heightForWidth:labelWidth];
@@ -81,15 +91,15 @@
     const CGFloat right = width - cardPadding;
     const auto centred = [height](CGFloat each) { return cardPadding + (height - each) / 2; };
     kelmar::place(label_, cardPadding, centred(labelHeight), labelWidth);
-    kelmar::setFrame(switch_, NSMakeRect(right - toggle.width, centred(toggle.height), toggle.width,
-                                         toggle.height));
+    kelmar::setAlignedFrame(switch_, NSMakeRect(right - toggle.width, centred(toggle.height),
+                                                toggle.width, toggle.height));
     kelmar::setFrame(total_, NSMakeRect(right - toggle.width - partGap - totalWidth,
                                         centred(totalHeight), totalWidth, totalHeight));
     CGFloat below = kelmar::place(line_, cardPadding, cardPadding + height + lineGap,
                                   inside - toggle.width - columnGap);
-    const NSSize button = [folders_ frame].size;
-    kelmar::setFrame(folders_,
-                     NSMakeRect(cardPadding, below + partGap, button.width, button.height));
+    const NSSize button = kelmar::alignedSize(folders_);
+    kelmar::setAlignedFrame(folders_,
+                            NSMakeRect(cardPadding, below + partGap, button.width, button.height));
     below += partGap + button.height + cardPadding;
     for (KelmarFolderList* list in lists_) {
         below = kelmar::place(list, 0, below, width);

@@ -8,6 +8,7 @@
 @interface KelmarDetailsView : KelmarFlippedView {
     const kelmar::WindowActions* actions_;
     NSButton* triangle_;
+    BOOL isShown_; ///< as the page says
     NSButton* label_;
     KelmarCardView* card_;
     KelmarLogView* log_;

@@ -1,7 +1,10 @@
 #include "ui/appkit/details.h"
 
 #include "system/text/foundation_text_macos.hpp"
+#include "ui/appkit/accessible.h"
 #include "ui/appkit/from_toolkit.hpp"
+#include "ui/appkit/run_loop_modes.h"
+#include "ui/appkit/state.h"
 #include "ui/look.hpp"
 
 #include <algorithm>
@@ -12,7 +15,7 @@
     return [[[self alloc] initWithActions:actions] autorelease];
 }
 
-/// The triangle turns by itself; its text beside it presses it.
+/// Two controls: a triangle, and its text beside it.
 - (instancetype)initWithActions:(const kelmar::WindowActions*)actions {
     self = [super initWithFrame:NSZeroRect];
     if (self != nil) {
@@ -27,7 +30,7 @@
         [label_ setButtonType:NSButtonTypeMomentaryChange];
         [label_ setRefusesFirstResponder:YES];
         // One control for those who can't see: the triangle, which has the text for its name.
-        [label_ setAccessibilityElement:NO];
+        kelmar::setAccessible(label_, false);
         log_ = [KelmarLogView log];
         card_ = [KelmarCardView card];
         for (NSButton* button in @[ triangle_, label_ ]) {
@@ -44,6 +47,7 @@
 - (void)dealloc {
     [triangle_ setTarget:nil];
     [label_ setTarget:nil];
+    [NSObject cancelPreviousPerformRequestsWithTarget:self];
     [super dealloc];
 }
 
@@ -53,20 +57,27 @@
     if (![[label_ title] isEqualToString:text]) {
         [label_ setTitle:text];
         [label_ sizeToFit];
-        [triangle_ setAccessibilityLabel:text];
+        kelmar::setAccessibleName(triangle_, details.toggle.text);
         [log_ setName:details.toggle.text];
     }
-    if (([triangle_ state] == NSControlStateValueOn) != details.shown) {
-        [triangle_ setState:details.shown ? NSControlStateValueOn : NSControlStateValueOff];
-    }
+    isShown_ = details.shown ? YES : NO;
+    [self showState];
+    kelmar::setUnfolded(triangle_, details.shown);
     [card_ setHidden:details.shown ? NO : YES];
     if (details.shown) {
         [log_ render:details.log];
     }
 }
 
+- (void)showState {
+    kelmar::setState(triangle_, isShown_);
+}
+
+/// The triangle turns by itself, and shows afterwards what the page says.
 - (void)toggle:(id)sender {
     static_cast<void>(sender);
+    [self performSelector:@selector(showState) withObject:nil afterDelay:0
+                  inModes:kelmar::everyRunLoopMode()];
     kelmar::fromToolkit([actions = actions_, action = action_] { actions->perform(action); });
 }
 

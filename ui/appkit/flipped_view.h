@@ -19,6 +19,17 @@ namespace kelmar {
 /// it. A frame that stays is left alone, so that nothing is drawn twice.
 CGFloat place(KelmarFlippedView* view, CGFloat x, CGFloat y, CGFloat width);
 
+/// Makes `view` a subview of `parent` that comes right after its subview `before`, or without one
+/// ahead of all others.
+void insertSubview(NSView* parent, NSView* view, NSView* before);
+
+/// The size of a control without the room that it keeps around itself, for a shadow or a ring: the
+/// part that lines up with other edges.
+NSSize alignedSize(NSView* view);
+
+/// Places that part of a control.
+void setAlignedFrame(NSView* view, NSRect frame);
+
 /// Gives `view` this frame unless it has it.
 void setFrame(NSView* view, NSRect frame);
 

@@ -21,6 +21,19 @@ CGFloat place(KelmarFlippedView* view, CGFloat x, CGFloat y, CGFloat width) {
     return y + height;
 }
 
+void insertSubview(NSView* parent, NSView* view, NSView* before) {
+    [parent addSubview:view positioned:before != nil ? NSWindowAbove : NSWindowBelow
+            relativeTo:before];
+}
+
+NSSize alignedSize(NSView* view) {
+    return [view alignmentRectForFrame:[view frame]].size;
+}
+
+void setAlignedFrame(NSView* view, NSRect frame) {
+    setFrame(view, [view frameForAlignmentRect:frame]);
+}
+
 void setFrame(NSView* view, NSRect frame) {
     if (!NSEqualRects([view frame], frame)) {
         [view setFrame:frame];

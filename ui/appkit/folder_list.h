@@ -9,6 +9,7 @@
     const kelmar::WindowActions* actions_;
     std::string* path_; ///< its own bytes: a text would have lost some
     NSButton* check_;
+    BOOL isChecked_; ///< as the page says
     KelmarTextLabel* summary_;
     KelmarSizeLabel* size_;
 }

@@ -2,8 +2,11 @@
 
 #include "system/text/foundation_text_macos.hpp"
 #include "system/text/harmless_text.hpp"
+#include "ui/appkit/accessible.h"
 #include "ui/appkit/from_toolkit.hpp"
 #include "ui/appkit/row_list.h"
+#include "ui/appkit/run_loop_modes.h"
+#include "ui/appkit/state.h"
 #include "ui/look.hpp"
 
 #include <algorithm>
@@ -35,6 +38,7 @@
 
 - (void)dealloc {
     [check_ setTarget:nil];
+    [NSObject cancelPreviousPerformRequestsWithTarget:self];
     delete path_;
     [super dealloc];
 }
@@ -46,16 +50,22 @@
         [check_ setTitle:name];
         [check_ sizeToFit];
     }
-    if (([check_ state] == NSControlStateValueOn) != row.checked) {
-        [check_ setState:row.checked ? NSControlStateValueOn : NSControlStateValueOff];
-    }
-    [check_ setAccessibilityHelp:kelmar::foundationText(row.summary)];
+    isChecked_ = row.checked ? YES : NO;
+    [self showChecked];
+    kelmar::setAccessibleHelp(check_, row.summary);
     [summary_ showText:row.summary];
     [size_ render:row.size];
 }
 
+- (void)showChecked {
+    kelmar::setState(check_, isChecked_);
+}
+
+/// The box has changed by itself: that asks for the change, and what the page answers is shown.
 - (void)toggle:(id)sender {
     static_cast<void>(sender);
+    [self performSelector:@selector(showChecked) withObject:nil afterDelay:0
+                  inModes:kelmar::everyRunLoopMode()];
     const bool checked = [check_ state] == NSControlStateValueOn;
     // A copy: what the press does may render the row anew.
     kelmar::fromToolkit(
@@ -64,7 +74,7 @@
 
 - (CGFloat)layOutForWidth:(CGFloat)width {
     using namespace kelmar::Look;
-    const NSSize check = [check_ frame].size;
+    const NSSize check = kelmar::alignedSize(check_);
     const CGFloat sizeWidth = [size_ naturalWidth];
     const CGFloat checkWidth = std::min(check.width, width - sizeWidth - partGap);
     const CGFloat summary = checkWidth + partGap;
@@ -72,7 +82,8 @@
     const CGFloat textHeight = [summary_ heightForWidth:width];
     const CGFloat sizeHeight = [size_ heightForWidth:width];
     const CGFloat height = std::max({check.height, textHeight, sizeHeight});
-    kelmar::setFrame(check_, NSMakeRect(0, (height - check.height) / 2, checkWidth, check.height));
+    kelmar::setAlignedFrame(check_,
+                            NSMakeRect(0, (height - check.height) / 2, checkWidth, check.height));
     kelmar::setFrame(summary_,
                      NSMakeRect(summary, (height - textHeight) / 2, summaryWidth, textHeight));
     kelmar::setFrame(
@@ -113,7 +124,7 @@
 - (void)render:(const kelmar::FolderList&)list {
     [heading_ showText:list.heading];
     kelmar::renderRows<KelmarFolderRow>(
-        self, rows_, list.rows,
+        self, heading_, rows_, list.rows,
         [actions = actions_] { return [KelmarFolderRow rowWithActions:actions]; },
         [](KelmarFolderRow* row, const kelmar::FolderRow& record) { [row render:record]; });
     [others_ setHidden:list.otherItems ? NO : YES];

@@ -38,7 +38,7 @@
                                            tone:kelmar::TextTone::secondary];
     };
     kelmar::renderRows<KelmarNoteRow>(
-        self, notes_, footer.notes, makeNote,
+        self, nil, notes_, footer.notes, makeNote,
         [](KelmarNoteRow* row, const kelmar::FooterNote& note) { [row renderNote:note]; });
     [busy_ render:footer.busy];
     const auto makeButton = [actions = actions_] {
@@ -47,7 +47,7 @@
         return button;
     };
     kelmar::renderRows<KelmarPushButton>(
-        self, buttons_, footer.buttons, makeButton,
+        self, busy_, buttons_, footer.buttons, makeButton,
         [](KelmarPushButton* each, const kelmar::Button& button) { [each render:button]; });
 }
 
@@ -57,10 +57,11 @@
     CGFloat left = width - pageMargin;
     CGFloat right = left;
     for (KelmarPushButton* button in [buttons_ reverseObjectEnumerator]) {
-        const NSSize size = [button frame].size;
+        const NSSize size = kelmar::alignedSize(button);
         const CGFloat each = std::max<CGFloat>(size.width, buttonWidth);
         left = right - each;
-        kelmar::setFrame(button, NSMakeRect(left, (height - size.height) / 2, each, size.height));
+        kelmar::setAlignedFrame(button,
+                                NSMakeRect(left, (height - size.height) / 2, each, size.height));
         right = left - buttonGap;
     }
     return left;

@@ -16,6 +16,7 @@
 
 - (void)render:(const kelmar::FoundRow&)row;
 - (void)setFirst:(BOOL)first;
+- (void)forgetIcon;
 
 @end
 
@@ -25,5 +26,8 @@
 }
 
 - (void)render:(const kelmar::FoundSection&)section;
+
+/// The next page comes from another scan, and its apps may have been replaced.
+- (void)forgetIcons;
 
 @end

@@ -33,6 +33,10 @@
     [divider_ setHidden:first];
 }
 
+- (void)forgetIcon {
+    [icon_ forget];
+}
+
 - (void)render:(const kelmar::FoundRow&)row {
     if (const auto* const symbol = std::get_if<kelmar::FoundRow::Symbol>(&row.icon)) {
         [icon_ showSymbol:symbol->name tint:kelmar::Tint::secondary
@@ -76,8 +80,14 @@
 - (void)render:(const kelmar::FoundSection&)section {
     [self showTitle:section.title.text];
     kelmar::renderRows<KelmarFoundRow>(
-        [self card], rows_, section.rows, [] { return [KelmarFoundRow row]; },
+        [self card], nil, rows_, section.rows, [] { return [KelmarFoundRow row]; },
         [](KelmarFoundRow* row, const kelmar::FoundRow& record) { [row render:record]; });
+}
+
+- (void)forgetIcons {
+    for (KelmarFoundRow* row in rows_) {
+        [row forgetIcon];
+    }
 }
 
 - (CGFloat)layOutCardForWidth:(CGFloat)width {

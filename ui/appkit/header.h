@@ -13,7 +13,6 @@
 
 + (instancetype)header;
 
-/// `announced`: said to people who can't see that the page has become another.
-- (void)render:(const kelmar::Header&)header announced:(BOOL)announced;
+- (void)render:(const kelmar::Header&)header;
 
 @end

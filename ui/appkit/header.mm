@@ -1,6 +1,6 @@
 #include "ui/appkit/header.h"
 
-#include "system/text/foundation_text_macos.hpp"
+#include "ui/appkit/accessible.h"
 #include "ui/look.hpp"
 
 #include <algorithm>
@@ -18,6 +18,7 @@
         [icon_ showApplicationIcon];
         title_ = [KelmarTextLabel labelWithStyle:kelmar::TextStyle::title
                                             tone:kelmar::TextTone::primary];
+        kelmar::setHeading(title_);
         subtitle_ = [KelmarTextLabel labelWithStyle:kelmar::TextStyle::body
                                                tone:kelmar::TextTone::secondary];
         [self addSubview:icon_];
@@ -27,18 +28,9 @@
     return self;
 }
 
-- (void)render:(const kelmar::Header&)header announced:(BOOL)announced {
+- (void)render:(const kelmar::Header&)header {
     [title_ showText:header.title];
     [subtitle_ showText:header.subtitle];
-    if (announced) {
-        NSDictionary* const announcement = [NSDictionary
-            dictionaryWithObjectsAndKeys:kelmar::foundationText(header.announcement()),
-                                         NSAccessibilityAnnouncementKey,
-                                         [NSNumber numberWithInteger:NSAccessibilityPriorityMedium],
-                                         NSAccessibilityPriorityKey, nil];
-        NSAccessibilityPostNotificationWithUserInfo(
-            NSApp, NSAccessibilityAnnouncementRequestedNotification, announcement);
-    }
 }
 
 - (CGFloat)layOutForWidth:(CGFloat)width {

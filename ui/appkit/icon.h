@@ -18,6 +18,9 @@
 - (void)showIconOfFile:(const std::string&)path;
 - (void)showApplicationIcon;
 
+/// Asks for the icon anew when it is shown next: what is at the same path may be another file.
+- (void)forget;
+
 /// Says what the icon means to somebody who can't see it. Without, it is passed over: what stands
 /// beside it says all.
 - (void)setMeaning:(const std::string&)meaning;

@@ -1,6 +1,7 @@
 #include "ui/appkit/icon.h"
 
 #include "system/text/foundation_text_macos.hpp"
+#include "ui/appkit/accessible.h"
 #include "ui/appkit/colours.h"
 
 @implementation KelmarIconView
@@ -15,7 +16,7 @@
         [self setImageScaling:NSImageScaleProportionallyDown];
         [self setEditable:NO];
         [self setRefusesFirstResponder:YES]; // nor is it a stop for the keyboard
-        [self setAccessibilityElement:NO];
+        kelmar::setAccessible(self, false);
     }
     return self;
 }
@@ -56,6 +57,11 @@
     }
 }
 
+- (void)forget {
+    [shown_ release];
+    shown_ = nil;
+}
+
 - (void)showApplicationIcon {
     if ([self begin:@"application"]) {
         [self setImage:[NSApp applicationIconImage]];
@@ -63,8 +69,8 @@
 }
 
 - (void)setMeaning:(const std::string&)meaning {
-    [self setAccessibilityElement:meaning.empty() ? NO : YES];
-    [self setAccessibilityLabel:kelmar::foundationText(meaning)];
+    kelmar::setAccessible(self, !meaning.empty());
+    kelmar::setAccessibleName(self, meaning);
 }
 
 @end

@@ -1,6 +1,8 @@
 #include "ui/appkit/log_view.h"
 
 #include "system/text/foundation_text_macos.hpp"
+#include "system/text/harmless_text.hpp"
+#include "ui/appkit/accessible.h"
 #include "ui/appkit/fonts.h"
 #include "ui/look.hpp"
 
@@ -31,6 +33,15 @@ NSTextView* makeTextView(NSSize size) {
     [[text textContainer] setWidthTracksTextView:YES];
     // Lines that nobody looks at are not laid out until somebody does.
     [[text layoutManager] setAllowsNonContiguousLayout:YES];
+    return text;
+}
+
+/// The lines from `first` on. They may hold names of files, which are somebody else's text.
+std::string harmlessLines(const LogLines& log, std::size_t first) {
+    std::string text;
+    for (std::size_t index = first; index < log.size(); ++index) {
+        text += (index > 0 ? "\n" : "") + harmlessText(log[index]);
+    }
     return text;
 }
 
@@ -105,9 +116,8 @@ NSAttributedString* recordText(const std::string& text) {
         *shown_ = kelmar::LogLines();
         [storage replaceCharactersInRange:NSMakeRange(0, [storage length]) withString:@""];
     }
-    const std::string separator = shown_->empty() ? "" : "\n";
     // At the end of the text, where no selection and no line that is seen can be: they stay.
-    [storage appendAttributedString:kelmar::recordText(separator + log.text(shown_->size()))];
+    [storage appendAttributedString:kelmar::recordText(kelmar::harmlessLines(log, shown_->size()))];
     *shown_ = log;
     if (follows) {
         [self scrollToEnd];
@@ -115,7 +125,7 @@ NSAttributedString* recordText(const std::string& text) {
 }
 
 - (void)setName:(const std::string&)name {
-    [text_ setAccessibilityLabel:kelmar::foundationText(name)];
+    kelmar::setAccessibleName(text_, name);
 }
 
 @end

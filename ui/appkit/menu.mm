@@ -1,6 +1,7 @@
 #include "ui/appkit/menu.h"
 
 #include "system/text/foundation_text_macos.hpp"
+#include "ui/appkit/app_delegate.h"
 
 namespace kelmar {
 
@@ -9,7 +10,7 @@ namespace {
 SEL selectorOf(MenuAction action) {
     switch (action) {
     case MenuAction::about:
-        return @selector(orderFrontStandardAboutPanel:);
+        return @selector(showAboutPanel:);
     case MenuAction::hide:
         return @selector(hide:);
     case MenuAction::hideOthers:

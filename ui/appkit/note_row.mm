@@ -1,6 +1,7 @@
 #include "ui/appkit/note_row.h"
 
 #include "system/text/foundation_text_macos.hpp"
+#include "ui/appkit/accessible.h"
 #include "ui/look.hpp"
 
 #include <algorithm>
@@ -36,9 +37,8 @@
 
 - (void)renderNote:(const kelmar::FooterNote&)note {
     [self showSymbol:note.symbol tint:kelmar::Tint::secondary text:note.text];
-    NSString* const help = kelmar::foundationText(note.help);
-    [self setToolTip:help];
-    [text_ setAccessibilityHelp:help];
+    [self setToolTip:kelmar::foundationText(note.help)];
+    kelmar::setAccessibleHelp(text_, note.help);
 }
 
 - (void)renderSummary:(const kelmar::SummaryRow&)row {

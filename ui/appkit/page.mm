@@ -1,5 +1,6 @@
 #include "ui/appkit/page.h"
 
+#include "ui/appkit/accessible.h"
 #include "ui/look.hpp"
 
 @implementation KelmarPageView
@@ -54,7 +55,10 @@
     const bool headerChanges = newPhase || shown_->header != page.header;
     const bool footerChanges = first || shown_->footer != page.footer;
     if (headerChanges) {
-        [header_ render:page.header announced:newPhase ? YES : NO];
+        [header_ render:page.header];
+    }
+    if (newPhase) {
+        kelmar::announce(page.announcement());
     }
     if (footerChanges) {
         [footer_ render:page.footer];

@@ -1,6 +1,6 @@
 #include "ui/appkit/progress_section.h"
 
-#include "system/text/foundation_text_macos.hpp"
+#include "ui/appkit/accessible.h"
 #include "ui/appkit/row_list.h"
 #include "ui/appkit/spinner.h"
 #include "ui/look.hpp"
@@ -32,7 +32,7 @@
     kelmar::setSpinning(spinner_, running);
     [icon_ setHidden:running ? YES : NO];
     if (running) {
-        [spinner_ setAccessibilityLabel:kelmar::foundationText(row.icon.label)];
+        kelmar::setAccessibleName(spinner_, row.icon.label);
     } else {
         [icon_ showSymbol:*row.icon.symbol tint:row.icon.tint pointSize:kelmar::Look::rowSymbol];
         [icon_ setMeaning:row.icon.label];
@@ -75,7 +75,7 @@
 
 - (void)render:(const kelmar::WorkingContent&)content {
     kelmar::renderRows<KelmarProgressRow>(
-        [self card], rows_, content.stages, [] { return [KelmarProgressRow row]; },
+        [self card], nil, rows_, content.stages, [] { return [KelmarProgressRow row]; },
         [](KelmarProgressRow* row, const kelmar::ProgressRow& record) { [row render:record]; });
     [detail_ showText:content.detail];
 }

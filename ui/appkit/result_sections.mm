@@ -26,7 +26,7 @@
                                            tone:kelmar::TextTone::primary];
     };
     kelmar::renderRows<KelmarNoteRow>(
-        [self card], rows_, rows, make,
+        [self card], nil, rows_, rows, make,
         [](KelmarNoteRow* row, const kelmar::SummaryRow& record) { [row renderSummary:record]; });
 }
 
@@ -99,7 +99,7 @@
 - (void)render:(const kelmar::ProblemsSection&)section {
     [self showTitle:section.title.text];
     kelmar::renderRows<KelmarProblemRow>(
-        [self card], rows_, section.rows, [] { return [KelmarProblemRow row]; },
+        [self card], nil, rows_, section.rows, [] { return [KelmarProblemRow row]; },
         [](KelmarProblemRow* row, const kelmar::ProblemRow& record) { [row render:record]; });
 }
 

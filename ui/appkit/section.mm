@@ -1,5 +1,6 @@
 #include "ui/appkit/section.h"
 
+#include "ui/appkit/accessible.h"
 #include "ui/look.hpp"
 
 @implementation KelmarSection
@@ -14,6 +15,7 @@
         title_ = [KelmarTextLabel labelWithStyle:kelmar::TextStyle::sectionTitle
                                             tone:kelmar::TextTone::primary];
         [title_ setHidden:YES];
+        kelmar::setHeading(title_);
         card_ = [KelmarCardView card];
         [self addSubview:title_];
         [self addSubview:card_];

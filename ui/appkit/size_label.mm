@@ -1,6 +1,6 @@
 #include "ui/appkit/size_label.h"
 
-#include "system/text/foundation_text_macos.hpp"
+#include "ui/appkit/accessible.h"
 
 @implementation KelmarSizeLabel
 
@@ -18,7 +18,7 @@
 
 - (void)render:(const kelmar::SizeText&)size {
     [self showText:size.text()];
-    [self setAccessibilityLabel:kelmar::foundationText(size.accessibleName())];
+    kelmar::setAccessibleName(self, size.accessibleName());
 }
 
 @end

@@ -1,5 +1,6 @@
 # The window's sources, for the Mac's own build and for the one against GNUstep.
 set(appkit_sources
+    accessible.mm
     app_delegate.mm
     busy_row.mm
     callout.mm

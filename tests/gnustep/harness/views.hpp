@@ -14,6 +14,14 @@ std::vector<NSView*> seenViews(NSView* root);
 /// What a view shows as text; empty for one that shows none, or only by views inside it.
 std::string textOf(NSView* view);
 
+/// What a screen reader is given for the view: for a control that is drawn by one cell, that cell.
+/// The Mac's switch has none.
+id exposed(NSView* view);
+
+/// The texts that are to be seen in `root`, in the order of the views: the one in which a screen
+/// reader goes through them.
+std::vector<std::string> textsInOrderOfViews(NSView* root);
+
 /// The texts that are to be seen in `root`, in the order in which they are read: from top to
 /// bottom, and in a line from left to right.
 std::vector<std::string> textsIn(NSView* root);
@@ -49,5 +57,8 @@ std::vector<std::string> symbolsIn(NSView* root);
 
 /// The frame in the window's content, measured from its top left corner.
 NSRect placeInWindow(NSView* view);
+
+/// The same for a rectangle in the coordinates of the view's superview.
+NSRect placeInWindow(NSView* view, NSRect beside);
 
 } // namespace kelmar::test

@@ -59,6 +59,23 @@ std::string textOf(NSView* view) {
     return "";
 }
 
+id exposed(NSView* view) {
+    const bool hasCell =
+        [view isKindOfClass:[NSControl class]] && ![view isKindOfClass:[NSSwitch class]];
+    NSCell* const cell = hasCell ? [static_cast<NSControl*>(view) cell] : nil;
+    return cell != nil ? static_cast<id>(cell) : static_cast<id>(view);
+}
+
+std::vector<std::string> textsInOrderOfViews(NSView* root) {
+    std::vector<std::string> texts;
+    for (NSView* const view : seenViews(root)) {
+        if (!textOf(view).empty()) {
+            texts.push_back(textOf(view));
+        }
+    }
+    return texts;
+}
+
 std::vector<std::string> textsIn(NSView* root) {
     std::vector<NSView*> views = seenViews(root);
     std::erase_if(views, [](NSView* each) { return textOf(each).empty(); });
@@ -93,8 +110,12 @@ std::vector<std::string> symbolsIn(NSView* root) {
 }
 
 NSRect placeInWindow(NSView* view) {
+    return placeInWindow(view, [view frame]);
+}
+
+NSRect placeInWindow(NSView* view, NSRect beside) {
     NSView* const content = [[view window] contentView];
-    NSRect place = [view convertRect:[view bounds] toView:content];
+    NSRect place = [[view superview] convertRect:beside toView:content];
     if (![content isFlipped]) {
         place.origin.y = NSHeight([content bounds]) - NSMaxY(place);
     }

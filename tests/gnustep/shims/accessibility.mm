@@ -9,9 +9,14 @@ NSString* keptLabel(id self, SEL /*command*/) {
     return [self keptUnder:@"label"];
 }
 
+BOOL press(id self, SEL /*command*/) {
+    [self performClick:nil];
+    return YES;
+}
+
 } // namespace
 
-@implementation NSResponder (KelmarAccessibility)
+@implementation NSObject (KelmarAccessibility)
 
 - (void)setAccessibilityElement:(BOOL)element {
     [self keep:[NSNumber numberWithBool:element] under:@"element"];
@@ -19,7 +24,9 @@ NSString* keptLabel(id self, SEL /*command*/) {
 
 - (BOOL)isAccessibilityElement {
     NSNumber* const told = [self keptUnder:@"element"];
-    return told != nil ? [told boolValue] : [self isKindOfClass:[NSControl class]];
+    return told != nil
+               ? [told boolValue]
+               : [self isKindOfClass:[NSControl class]] || [self isKindOfClass:[NSCell class]];
 }
 
 - (void)setAccessibilityLabel:(NSString*)value {
@@ -102,8 +109,26 @@ NSString* keptLabel(id self, SEL /*command*/) {
     return [self keptUnder:@"children"];
 }
 
+- (void)setAccessibilityExpanded:(BOOL)expanded {
+    [self keep:[NSNumber numberWithBool:expanded] under:@"expanded"];
+}
+
+- (BOOL)isAccessibilityExpanded {
+    return [[self keptUnder:@"expanded"] boolValue];
+}
+
+- (BOOL)accessibilityPerformPress {
+    NSControl* const control =
+        [self isKindOfClass:[NSCell class]]
+            ? static_cast<NSControl*>([static_cast<NSCell*>(self) controlView])
+            : static_cast<NSControl*>(self);
+    [control performClick:nil];
+    return YES;
+}
+
 @end
 
 void KelmarInstallAccessibility() {
     KelmarReplace([NSSwitch class], @selector(accessibilityLabel), keptLabel);
+    KelmarReplace([NSSwitch class], @selector(accessibilityPerformPress), press);
 }

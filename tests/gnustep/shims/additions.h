@@ -8,6 +8,7 @@
 // Known to GNUstep, and not among what its Foundation.h names.
 #import "tests/gnustep/shims/accessibility.h"
 #import "tests/gnustep/shims/alert.h"
+#import "tests/gnustep/shims/alignment.h"
 #import "tests/gnustep/shims/announcements.h"
 #import "tests/gnustep/shims/buttons.h"
 #import "tests/gnustep/shims/colours.h"

@@ -45,6 +45,22 @@ void clickSwitch(id self, SEL /*command*/, id /*sender*/) {
     }
 }
 
+using KeyDown = void (*)(id, SEL, NSEvent*);
+
+KeyDown gnustepKeyDown = nullptr;
+
+void pressSwitch(id self, SEL command, NSEvent* event) {
+    if ([[event characters] isEqualToString:@" "]) {
+        [self performClick:nil];
+    } else {
+        gnustepKeyDown(self, command, event);
+    }
+}
+
+BOOL acceptFocus(id self, SEL /*command*/) {
+    return [self isEnabled];
+}
+
 } // namespace
 
 void KelmarInstallControls() {
@@ -53,5 +69,7 @@ void KelmarInstallControls() {
     Class const toggle = [NSSwitch class];
     KelmarReplace(toggle, @selector(sizeToFit), fitSwitch);
     KelmarReplace(toggle, @selector(performClick:), clickSwitch);
+    KelmarReplace(toggle, @selector(acceptsFirstResponder), acceptFocus);
+    gnustepKeyDown = KelmarReplace(toggle, @selector(keyDown:), pressSwitch);
     gnustepMakeSwitch = KelmarReplace(toggle, @selector(initWithFrame:), makeEnabledSwitch);
 }

@@ -2,9 +2,9 @@
 
 #import <AppKit/AppKit.h>
 
-/// What the shims remember about a view or a window that GNUstep has no room for, by name.
+/// What the shims remember about a view, a cell or a window that GNUstep has no room for, by name.
 /// Forgotten with it. On the main thread only.
-@interface NSResponder (KelmarSideValues)
+@interface NSObject (KelmarSideValues)
 - (void)keep:(id)value under:(NSString*)name;
 - (id)keptUnder:(NSString*)name;
 @end

@@ -15,19 +15,29 @@ Values& all() {
 
 using Dealloc = void (*)(id, SEL);
 
-Dealloc gnustepDealloc = nullptr;
+Dealloc responderDealloc = nullptr;
+Dealloc cellDealloc = nullptr;
 
-void forgetAndDealloc(id self, SEL command) {
+void forget(id self) {
     if (const auto place = all().find(self); place != all().end()) {
         [place->second release];
         all().erase(place);
     }
-    gnustepDealloc(self, command);
+}
+
+void forgetResponder(id self, SEL command) {
+    forget(self);
+    responderDealloc(self, command);
+}
+
+void forgetCell(id self, SEL command) {
+    forget(self);
+    cellDealloc(self, command);
 }
 
 } // namespace
 
-@implementation NSResponder (KelmarSideValues)
+@implementation NSObject (KelmarSideValues)
 
 - (void)keep:(id)value under:(NSString*)name {
     NSMutableDictionary*& values = all()[self];
@@ -49,5 +59,6 @@ void forgetAndDealloc(id self, SEL command) {
 @end
 
 void KelmarInstallSideValues() {
-    gnustepDealloc = KelmarReplace([NSResponder class], @selector(dealloc), forgetAndDealloc);
+    responderDealloc = KelmarReplace([NSResponder class], @selector(dealloc), forgetResponder);
+    cellDealloc = KelmarReplace([NSCell class], @selector(dealloc), forgetCell);
 }

@@ -9,6 +9,9 @@
 - (BOOL)isRestorable;
 - (void)setPreventsApplicationTerminationWhenModal:(BOOL)prevents;
 - (BOOL)preventsApplicationTerminationWhenModal;
+// Windows in tabs (macOS 10.12).
++ (void)setAllowsAutomaticWindowTabbing:(BOOL)allows;
++ (BOOL)allowsAutomaticWindowTabbing;
 @end
 
 /// Stands for what the Mac asks an application's delegate (macOS 12).

@@ -2,7 +2,21 @@
 
 #import "tests/gnustep/shims/side_values.h"
 
+namespace {
+
+BOOL allowsTabs = YES;
+
+} // namespace
+
 @implementation NSWindow (KelmarWindows)
+
++ (void)setAllowsAutomaticWindowTabbing:(BOOL)allows {
+    allowsTabs = allows;
+}
+
++ (BOOL)allowsAutomaticWindowTabbing {
+    return allowsTabs;
+}
 
 - (void)setRestorable:(BOOL)restorable {
     [self keep:[NSNumber numberWithBool:restorable] under:@"restorable"];

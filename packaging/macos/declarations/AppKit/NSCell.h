@@ -1,6 +1,7 @@
 // Apple Developer Documentation: AppKit, NSCell, NSControlStateValue, NSControlSize, NSImageScaling
 #pragma once
 
+#import <AppKit/NSAccessibilityProtocols.h>
 #import <AppKit/NSParagraphStyle.h>
 
 typedef NSInteger NSControlStateValue;
@@ -17,7 +18,7 @@ typedef NS_ENUM(NSUInteger, NSImageScaling) {
     NSImageScaleProportionallyDown = 0,
 };
 
-@interface NSCell : NSObject
+@interface NSCell : NSObject <NSAccessibility>
 @property BOOL wraps;
 @property NSLineBreakMode lineBreakMode;
 @property (readonly) NSSize cellSize;

@@ -2,6 +2,7 @@
 #pragma once
 
 #import <AppKit/NSAccessibilityProtocols.h>
+#import <AppKit/NSGraphics.h>
 #import <AppKit/NSResponder.h>
 
 NS_ASSUME_NONNULL_BEGIN
@@ -22,6 +23,9 @@ typedef NS_OPTIONS(NSUInteger, NSAutoresizingMaskOptions) {
 @property (getter=isHidden) BOOL hidden;
 @property (readonly, getter=isFlipped) BOOL flipped;
 - (void)addSubview:(NSView *)view;
+- (void)addSubview:(NSView *)view positioned:(NSWindowOrderingMode)place relativeTo:(nullable NSView *)otherView;
+- (NSRect)alignmentRectForFrame:(NSRect)frame;
+- (NSRect)frameForAlignmentRect:(NSRect)alignmentRect;
 - (void)removeFromSuperview;
 - (void)setFrameSize:(NSSize)size;
 - (void)drawRect:(NSRect)dirty;

@@ -19,6 +19,7 @@ typedef NS_ENUM(NSUInteger, NSBackingStoreType) {
 };
 
 @interface NSWindow : NSResponder
+@property (class) BOOL allowsAutomaticWindowTabbing;
 - (instancetype)initWithContentRect:(NSRect)content styleMask:(NSWindowStyleMask)style backing:(NSBackingStoreType)backing defer:(BOOL)later NS_DESIGNATED_INITIALIZER;
 @property (copy) NSString *title;
 @property (nullable, strong) __kindof NSView *contentView;

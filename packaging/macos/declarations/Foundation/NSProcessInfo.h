@@ -2,6 +2,7 @@
 #pragma once
 
 #import <Foundation/NSString.h>
+#include <stdint.h>
 
 NS_ASSUME_NONNULL_BEGIN
 
