@@ -57,8 +57,35 @@ install_packages() {
     window_bench_packages=(xvfb libx11-dev libxcb1-dev libxdamage-dev)
     macos_packages=(nodejs cmake ninja-build llvm librsvg2-bin python3)
     macos_check_packages=(llvm python3 libplist-utils icnsutils unzip)
-    gnustep_packages=(gobjc++ libgnustep-gui-dev gnustep-back0.29-cairo xvfb libx11-dev libxtst-dev python3-clang)
+    gnustep_packages=(gobjc++ libgnustep-gui-dev gnustep-back0.29-cairo xvfb libx11-dev libxtst-dev python3-clang
+        nodejs)
     bench_packages=(libbenchmark-dev findutils coreutils time)
+}
+
+# npm comes with other Node.js packages than Debian's as well; two of them don't go together.
+install_npm() {
+    if ! command -v npm >/dev/null; then
+        install_packages npm
+    fi
+}
+
+# Fetches what the folder $1 pins by version and by hash into the folder $2, once, and then runs the rest as a command.
+# All is there when the file "complete" in $2, the copy of the description, has been made.
+fetch_pinned() {
+    local description=$1 folder=$2
+    shift 2
+    if cmp -s "$description/package-lock.json" "$folder/complete"; then
+        return
+    fi
+    mkdir -p "$folder"
+    rm -f "$folder/complete"
+    cp "$description/package.json" "$description/package-lock.json" "$folder/"
+    # What npm keeps for itself stays out of the caller's home, which may not be there to write to.
+    (cd "$folder" &&
+        quietly npm ci --ignore-scripts --no-audit --no-fund --no-update-notifier --cache "$folder/npm")
+    rm -rf "$folder/npm"
+    "$@"
+    cp "$description/package-lock.json" "$folder/complete"
 }
 
 # Runs a command quietly: what it printed is shown when it fails, and else only where it warned.

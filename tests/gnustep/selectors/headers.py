@@ -45,6 +45,7 @@ class Headers:
     variables: dict[str, str] = field(default_factory=dict)
     constants: dict[str, int] = field(default_factory=dict)
     types: dict[str, str] = field(default_factory=dict)
+    inline: set[str] = field(default_factory=set)  # functions whose text stands in the header
 
 
 def children(cursor):
@@ -88,6 +89,8 @@ def read_declaration(cursor, headers):
         read_container(cursor, headers.protocols.setdefault(name, Container()))
     elif cursor.kind == CursorKind.FUNCTION_DECL:
         headers.functions[name] = signature(cursor)
+        if cursor.is_definition():
+            headers.inline.add(name)
     elif cursor.kind == CursorKind.VAR_DECL:
         value = constant_value(cursor)
         if value is None:

@@ -1,7 +1,7 @@
 #!/usr/bin/python3
 """What the check of the selectors must see, and what it must not take offence at.
 
-    selectors_test.py DECLARATIONS
+    selectors_test.py DECLARATIONS SDK
 """
 
 import os
@@ -12,6 +12,7 @@ import tempfile
 import unittest
 
 import known
+import sdk
 from comparison import Comparison
 from headers import parse
 
@@ -128,12 +129,92 @@ class Mutation(unittest.TestCase):
         self.assertDifferent("variable Name", "extern int Name;")
 
 
+SDK_LINES = """
+declare const Name: string;
+
+declare const NSSwitchState: {
+  Off: 0,
+  On: 1,
+};
+
+declare function count(view: View, kind: Array<string>): number;
+
+declare interface Moving {
+  moveTo(place: number): void;
+}
+
+declare class View extends NSObject implements Moving {
+  static first<This extends abstract new (...args: any) => any>(this: This): View;
+
+  initWithNameTag(name: string, tag: (each: number, other: number) => void | null): this;
+
+  hidden: boolean;
+
+  readonly draws: boolean;
+}
+
+declare class Button extends View {
+}
+""".splitlines()
+
+
+def missing(declarations, renamed=()):
+    there = sdk.Sdk()
+    sdk.read_lines(SDK_LINES, there)
+    here = parse(ROOT + declarations, ["-fobjc-runtime=macosx", "-Wno-everything"])
+    found = {name for name, _ in sdk.missing(here, there, dict(renamed))}
+    return found - {"class NSObject"}
+
+
+class Sdk(unittest.TestCase):
+    """The other witness: names, numbers of arguments, values."""
+
+    def test_what_a_superclass_or_a_protocol_has_is_found(self):
+        self.assertEqual(missing(button("- (void)moveTo:(CGFloat)place;")) - {"class View"}, set())
+        self.assertEqual(missing(button("- (id)initWithName:(NSString *)name tag:(void *)tag;")), set())
+        self.assertEqual(missing(button("+ (View *)first;")), set())
+
+    def test_an_accessor_is_a_property(self):
+        self.assertEqual(missing(button("@property (getter=isHidden) BOOL hidden;")), set())
+        self.assertEqual(missing(button("@property (readonly) BOOL draws;")), set())
+
+    def test_functions_variables_and_values_are_found(self):
+        self.assertEqual(missing("extern NSString *const Name; int count(id view, id kind);"), set())
+        self.assertEqual(missing("enum { NSSwitchStateOn = 1 };"), set())
+        self.assertEqual(missing("enum { Lit = 1 };", {"constant Lit": "NSSwitchState.On"}), set())
+
+    def test_an_inline_function_is_not_looked_for(self):
+        self.assertEqual(missing("static inline int twice(int one) { return 2 * one; }"), set())
+
+    def test_a_wrong_name(self):
+        self.assertEqual(missing(button("- (void)moveTowards:(CGFloat)place;")), {"-[Button moveTowards:]"})
+        self.assertEqual(missing("@protocol Turning\n@end"), {"protocol Turning"})
+        self.assertEqual(missing("@interface Switch : NSObject\n@end"), {"class Switch"})
+        self.assertEqual(missing("extern NSString *const Names;"), {"variable Names"})
+        self.assertEqual(missing("int counts(id view, id kind);"), {"function counts"})
+
+    def test_a_wrong_number_of_arguments(self):
+        self.assertEqual(missing("int count(id view);"), {"function count"})
+        self.assertEqual(missing(button("- (void)moveTo;")), {"-[Button moveTo]"})
+
+    def test_a_property_that_can_only_be_read(self):
+        self.assertEqual(missing(button("@property BOOL draws;")), {"-[Button setDraws:]"})
+
+    def test_a_method_of_the_object_for_one_of_the_class(self):
+        self.assertEqual(missing(button("- (View *)first;")), {"-[Button first]"})
+
+    def test_a_wrong_value_or_none(self):
+        self.assertEqual(missing("enum { NSSwitchStateOn = 2 };"), {"constant NSSwitchStateOn"})
+        self.assertEqual(missing("enum { NSSwitchStateMixed = 2 };"), {"constant NSSwitchStateMixed"})
+        self.assertEqual(missing("enum { Lit = 0 };", {"constant Lit": "NSSwitchState.On"}), {"constant Lit"})
+
+
 class Lists(unittest.TestCase):
-    def complaints(self, absent, different, renamed=()):
+    def complaints(self, apart, different, renamed=(), found=("-[Button setTags:]",)):
         renamed = dict(renamed)
-        declarations = button("- (void)setTags:(NSInteger)tag;\n- (void)setTag:(int)tag;")
-        comparison = compared(declarations + "\nenum { On = 1 };", older=renamed)
-        return known.complaints(comparison, dict.fromkeys(absent, "why"), dict.fromkeys(different, "why"), renamed)
+        comparison = compared(button("- (void)setTag:(int)tag;") + "\nenum { On = 1 };", older=renamed)
+        return known.complaints(comparison, dict.fromkeys(found, "why"), dict.fromkeys(apart, "why"),
+                                dict.fromkeys(different, "why"), renamed)
 
     def test_what_is_listed_is_accepted(self):
         self.assertEqual(self.complaints(["-[Button setTags:]"], ["-[Button setTag:]"]), [])
@@ -172,11 +253,11 @@ class Whole(unittest.TestCase):
             with open(path, "w", encoding="utf-8") as file:
                 file.write(text.replace(before, after))
             check = os.path.join(os.path.dirname(os.path.abspath(__file__)), "check_selectors.py")
-            return subprocess.run([check, copy], capture_output=True, text=True, check=False)
+            return subprocess.run([check, copy, SDK], capture_output=True, text=True, check=False)
 
     def test_a_misspelt_selector_is_refused(self):
         end = self.run_on("Foundation/NSString.h", "allowLossyConversion:", "allowLossyConversions:")
-        self.assertIn("not in GNUstep, and not listed: -[NSString dataUsingEncoding:allowLossyConversions:]",
+        self.assertIn("not in the SDK, and not listed: -[NSString dataUsingEncoding:allowLossyConversions:]",
                       end.stdout)
         self.assertEqual(end.returncode, 1)
 
@@ -186,7 +267,13 @@ class Whole(unittest.TestCase):
         self.assertIn("different, and not listed: -[NSString dataUsingEncoding:allowLossyConversion:]", end.stdout)
         self.assertEqual(end.returncode, 1)
 
+    def test_a_wrong_value_is_refused(self):
+        end = self.run_on("AppKit/NSButton.h", "NSButtonTypeSwitch = 3", "NSButtonTypeSwitch = 4")
+        self.assertIn("not in the SDK, and not listed: constant NSButtonTypeSwitch: 4 here, [3] there", end.stdout)
+        self.assertEqual(end.returncode, 1)
+
 
 if __name__ == "__main__":
+    SDK = sys.argv.pop(2)
     DECLARATIONS = sys.argv.pop(1)
     unittest.main()
