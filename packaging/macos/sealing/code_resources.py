@@ -8,7 +8,10 @@ import hashlib
 import plistlib
 import re
 
-CODE = "^(Frameworks|SharedFrameworks|PlugIns|Plug-ins|XPCServices|Helpers|MacOS|Library/(Automator|Spotlight|LoginItems))/"
+CODE = (
+    "^(Frameworks|SharedFrameworks|PlugIns|Plug-ins|XPCServices|Helpers|MacOS"
+    "|Library/(Automator|Spotlight|LoginItems))/"
+)
 LOCALISED = {
     "^Resources/.*\\.lproj/": {"optional": True, "weight": 1000.0},
     "^Resources/.*\\.lproj/locversion.plist$": {"omit": True, "weight": 1100.0},

@@ -34,7 +34,8 @@ def directory(code, identifier, special):
     size = hashes + HASH_SIZE * len(pages)
     text = mach_o.segment(code, b"__TEXT")
     start, length = struct.unpack_from("<QQ", code, text + 40)
-    header = struct.pack(">9I", DIRECTORY, size, VERSION, AD_HOC, hashes, HEADER_SIZE, len(special), len(pages), len(code))
+    header = struct.pack(">6I", DIRECTORY, size, VERSION, AD_HOC, hashes, HEADER_SIZE)
+    header += struct.pack(">3I", len(special), len(pages), len(code))
     header += struct.pack(">4B", HASH_SIZE, SHA256, 0, PAGE_BITS)
     # Nothing is scattered, there is no team, and the code needs no 64 bits to be counted.
     header += struct.pack(">4IQ", 0, 0, 0, 0, 0)
