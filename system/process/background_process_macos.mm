@@ -10,7 +10,7 @@ namespace kelmar {
 void becomeBackgroundProcess() {
     @autoreleasepool {
         NSDictionary* const information = [[NSBundle mainBundle] infoDictionary];
-        if ([information isKindOfClass:[NSMutableDictionary class]]) {
+        if ([information isKindOfClass:[NSMutableDictionary class]] == YES) {
             [static_cast<NSMutableDictionary*>(information) setObject:[NSNumber numberWithInteger:1]
                                                                forKey:@"LSUIElement"];
         }

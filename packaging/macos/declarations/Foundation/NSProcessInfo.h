@@ -6,9 +6,9 @@
 
 NS_ASSUME_NONNULL_BEGIN
 
+// With NSActivityIdleSystemSleepDisabled (1ULL << 20) in it, which keeps the system from sleeping.
 typedef NS_OPTIONS(uint64_t, NSActivityOptions) {
-    NSActivityIdleSystemSleepDisabled = 1ULL << 20,
-    NSActivityUserInitiated = 0x00FFFFFFULL | NSActivityIdleSystemSleepDisabled,
+    NSActivityUserInitiated = 0x00FFFFFFULL,
 };
 
 @interface NSProcessInfo : NSObject
