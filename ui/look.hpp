@@ -13,6 +13,7 @@ constexpr int windowIcon = 64;    ///< in the desktop's lists of windows
 constexpr int pageMargin = 24;    ///< at the sides of header, content and footer
 constexpr int headerPadding = 12; ///< above and below the header
 constexpr int noticeMargin = 48;  ///< at the sides of a text that stands alone on the page
+constexpr int scrollVeil = 12;    ///< where what scrolls fades out before the lines around it
 constexpr int sectionGap = 16;    ///< between sections, and above and below all of them
 constexpr int partGap = 8;        ///< between the parts of a row or of a section
 constexpr int lineGap = 4;        ///< between lines that belong together

@@ -3,6 +3,7 @@
 #include "ui/look.hpp"
 #include "ui/qt/busy_row.hpp"
 #include "ui/qt/callout.hpp"
+#include "ui/qt/colours.hpp"
 #include "ui/qt/data_section.hpp"
 #include "ui/qt/details.hpp"
 #include "ui/qt/found_section.hpp"
@@ -13,6 +14,7 @@
 #include "ui/qt/text_label.hpp"
 
 #include <QApplication>
+#include <QPainter>
 #include <QScrollBar>
 #include <QVBoxLayout>
 #include <algorithm>
@@ -26,11 +28,37 @@ namespace {
 /// Around a block; the column's own margins leave out the room for focus rings.
 constexpr QMargins blockMargins(Look::focusRoom, Look::sectionGap, 0, 0);
 
+/// What scrolls fades out below it towards one edge of the page's content, and never touches the
+/// line there.
+class Veil : public QWidget {
+public:
+    Veil(bool above, QWidget* parent) : QWidget(parent), above_(above) {
+        setAttribute(Qt::WA_TransparentForMouseEvents);
+        hide();
+    }
+
+protected:
+    void paintEvent(QPaintEvent* /*event*/) override {
+        QColor page = Colours(palette()).page;
+        QLinearGradient gradient(0, above_ ? 0 : height(), 0, above_ ? height() : 0);
+        gradient.setColorAt(0, page);
+        gradient.setColorAt(2.0 * Look::hairline / Look::scrollVeil, page);
+        page.setAlpha(0);
+        gradient.setColorAt(1, page);
+        QPainter(this).fillRect(rect(), gradient);
+    }
+
+private:
+    bool above_;
+};
+
 } // namespace
 
 ContentWidget::ContentWidget(WindowActions actions, QWidget* parent)
     : QScrollArea(parent),
       actions_(std::move(actions)),
+      above_(new Veil(true, this)),
+      below_(new Veil(false, this)),
       kind_(std::variant_npos) {
     setFrameShape(QFrame::NoFrame);
     setWidgetResizable(true);
@@ -41,7 +69,9 @@ ContentWidget::ContentWidget(WindowActions actions, QWidget* parent)
         if (std::exchange(reveals_, false)) {
             revealData();
         }
+        veil();
     });
+    connect(verticalScrollBar(), &QScrollBar::valueChanged, this, &ContentWidget::veil);
     setFocusPolicy(Qt::NoFocus);
     auto* const inside = new QWidget;
     column_ = new QVBoxLayout(inside);
@@ -84,6 +114,16 @@ void ContentWidget::resizeEvent(QResizeEvent* event) {
     margins.setRight(std::max(0, Look::pageMargin - bar));
     column_->setContentsMargins(margins);
     QScrollArea::resizeEvent(event);
+    above_->setGeometry(0, 0, viewport()->width(), Look::scrollVeil);
+    below_->setGeometry(0, height() - Look::scrollVeil, viewport()->width(), Look::scrollVeil);
+}
+
+void ContentWidget::veil() {
+    const QScrollBar& bar = *verticalScrollBar();
+    above_->setVisible(bar.value() > bar.minimum());
+    below_->setVisible(bar.value() < bar.maximum());
+    above_->raise();
+    below_->raise();
 }
 
 template <class Block, class... Parts>

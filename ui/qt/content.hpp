@@ -63,6 +63,7 @@ private:
     void keepReadingOrder(Place made);
     void revealData();
     void bringIntoSight(QWidget* focused);
+    void veil();
 
     WindowActions actions_;
     QVBoxLayout* column_;
@@ -72,7 +73,9 @@ private:
     std::optional<Place> fills_; ///< the block of that page that takes all the height that is left
     bool unfolded_ = false;      ///< the folders are listed
     bool reveals_ = false;       ///< they have just been unfolded
-    std::size_t kind_;           ///< of the content that is shown
+    QWidget* above_;             ///< veils of the content's edges
+    QWidget* below_;
+    std::size_t kind_; ///< of the content that is shown
 };
 
 } // namespace kelmar

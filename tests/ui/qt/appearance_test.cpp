@@ -223,6 +223,22 @@ TEST_F(Appearance, FoldersThatAreUnfoldedScrollIntoView) {
     EXPECT_EQ(content().verticalScrollBar()->value(), 0) << "only when they are unfolded";
 }
 
+TEST_F(Appearance, WhatIsScrolledTouchesNeitherLineAroundIt) {
+    Page page = test::finishedPage();
+    auto& rows = std::get<FinishedContent>(page.content).problems->rows;
+    rows = std::vector<ProblemRow>(20, rows.front());
+    render(page);
+    content().verticalScrollBar()->setValue(content().verticalScrollBar()->maximum() / 2);
+    settle();
+    const QImage image = window.grab().toImage();
+    const QColor ground = Colours(window.palette()).page;
+    const int top = place(&content()).y();
+    for (int x = 0; x < content().viewport()->width(); ++x) {
+        ASSERT_NEAR(image.pixelColor(x, top).red(), ground.red(), 2) << x;
+        ASSERT_NEAR(image.pixelColor(x, top + content().height() - 1).red(), ground.red(), 2) << x;
+    }
+}
+
 TEST_F(Appearance, ACancelledRunsPageFitsWithoutScrolling) {
     Page page = test::readyPage();
     auto& ready = std::get<ReadyContent>(page.content);

@@ -11,6 +11,12 @@
 namespace kelmar {
 namespace {
 
+namespace fs = std::filesystem;
+
+constexpr int usualPoints = 10;
+constexpr int largePoints = 20;
+constexpr const char* temporary = "/var/folders/q4/T";
+
 /// The desktop that the window opens on.
 enum class Desktop {
     light,
@@ -25,30 +31,35 @@ protected:
     void installEverything() const {
         box->tree().everything();
         box->chownToUser("/Users/ann");
-        box->chownToUser("/box/tmp");
+        useTheMacsTemporaryFolder();
         const std::string agents = "/Library/LaunchAgents/";
         box->addService("com.kelmar.api", agents + "com.kelmar.api.plist");
         box->addService("com.kelmar.worker", agents + "com.kelmar.worker.plist");
     }
 
-    void openOnDesktop(const std::string& scale = "1") {
-        box->set("/box/config/kdeglobals", settings());
+    void openOnDesktop(const std::string& scale = "1", int points = usualPoints) {
+        box->set("/box/config/kdeglobals", settings(points));
         test::Program program = onTheScreen(box->uninstaller({}));
         // The toolkit takes font and palette from the settings of this desktop.
         program.environment["XDG_CURRENT_DESKTOP"] = "KDE";
         program.environment["KDE_SESSION_VERSION"] = "5";
         program.environment["XDG_CONFIG_HOME"] = "/box/config";
         program.environment["QT_SCALE_FACTOR"] = scale;
+        if (fs::exists(box->outside(temporary))) {
+            program.environment["TMPDIR"] = temporary;
+        }
         Window::open(program);
     }
 
     /// Keeps what the window shows as the screenshot of that name.
-    void screenshot(const std::string& name) const {
+    void screenshot(const std::string& name) const { screenshot(name, onScreen()); }
+
+    void screenshot(const std::string& name, const test::ScreenWindow& of) const {
         ::usleep(250'000); // the mouse has left, a spinner has turned
         const char* const folder = std::getenv("KELMAR_SCREENSHOTS");
         ASSERT_NE(folder, nullptr) << "KELMAR_SCREENSHOTS names the folder for the screenshots";
         const std::string desktop = GetParam() == Desktop::light ? "-light" : "-dark";
-        ASSERT_TRUE(test::saveScreenshot(screen->name(), onScreen(),
+        ASSERT_TRUE(test::saveScreenshot(screen->name(), of,
                                          std::string(folder) + "/" + name + desktop + ".png"));
     }
 
@@ -70,9 +81,19 @@ protected:
     }
 
 private:
-    static std::string settings() {
-        const std::string fonts = "[General]\nfont=Inter,10,-1,5,50,0,0,0,0,0\n"
-                                  "fixed=DejaVu Sans Mono,9,-1,5,50,0,0,0,0,0\n";
+    /// Where a Mac has it, and not the box: what is removed there stands in the record.
+    void useTheMacsTemporaryFolder() const {
+        fs::create_directories(box->outside(temporary));
+        for (const auto& entry : fs::directory_iterator(box->outside("/box/tmp"))) {
+            fs::rename(entry.path(), box->outside(temporary) / entry.path().filename());
+        }
+        box->chownToUser(temporary);
+    }
+
+    static std::string settings(int points) {
+        const std::string fonts = "[General]\nfont=Inter," + std::to_string(points) +
+                                  ",-1,5,50,0,0,0,0,0\n" + "fixed=DejaVu Sans Mono," +
+                                  std::to_string(points - 1) + ",-1,5,50,0,0,0,0,0\n";
         const auto colours = [](const std::string& set, const std::string& ground,
                                 const std::string& text) {
             return "[Colors:" + set + "]\nBackgroundNormal=" + ground +
@@ -183,6 +204,104 @@ TEST_P(Screenshots, LeftOver) {
     press("push button", "Uninstall and Delete Data");
     ASSERT_TRUE(shows("heading: Kelmar wasn't completely removed"));
     screenshot("leftover");
+}
+
+TEST_P(Screenshots, ManyLeftOver) {
+    installEverything();
+    for (const char* const folder :
+         {"/Users/ann/Library/Logs/Kelmar", "/Users/ann/Kelmar/Store", "/Users/ann/Kelmar/Export",
+          "/Users/ann/Kelmar/Database", "/Users/ann/Kelmar/Logs", "/Users/Shared/@Kelmar/CDN",
+          "/Users/Shared/@Kelmar/CDN_remote", "/Users/Shared/@Kelmar/Models",
+          "/Users/Shared/@Kelmar/Staging", "/Users/ann/Applications/Kelmar.app/Contents/MacOS"}) {
+        box->mountOver(folder);
+    }
+    openOnDesktop();
+    unblock();
+    waitForSizes();
+    press("push button", "Uninstall");
+    ASSERT_TRUE(shows("push button: Uninstall and Delete Data"));
+    press("push button", "Uninstall and Delete Data");
+    ASSERT_TRUE(shows("heading: Kelmar wasn't completely removed"));
+    screen->scrollDown(onScreen().place.centre(), 4);
+    leave();
+    screenshot("leftover-many");
+}
+
+TEST_P(Screenshots, OnlyData) {
+    box->tree()
+        .dataFolder(Scope::me, "Store", 12'000'000)
+        .dataFolder(Scope::me, "Database", 2'000'000);
+    box->chownToUser("/Users/ann");
+    openOnDesktop();
+    waitForSizes();
+    screenshot("data-only");
+}
+
+TEST_P(Screenshots, AnOpenMenu) {
+    installEverything();
+    openOnDesktop();
+    waitForSizes();
+    click("menu item", "Kelmar Uninstaller");
+    ASSERT_TRUE(eventually([this] { return screen->windows().size() == 2; }));
+    screen->press("Down");
+    screenshot("menu");
+}
+
+TEST_P(Screenshots, About) {
+    openOnDesktop();
+    ASSERT_TRUE(shows("heading: Kelmar isn't on this Mac"));
+    click("menu item", "Kelmar Uninstaller");
+    ASSERT_TRUE(eventually([this] { return screen->windows().size() == 2; }));
+    click("menu item", "About Kelmar Uninstaller");
+    leave();
+    test::ScreenWindow about;
+    ASSERT_TRUE(eventually([&] {
+        for (const test::ScreenWindow& each : screen->windows()) {
+            if (each.title == "About Kelmar Uninstaller") {
+                about = each;
+            }
+        }
+        return about.id != 0;
+    }));
+    screenshot("about", about);
+}
+
+TEST_P(Screenshots, ATooltip) {
+    installEverything();
+    openOnDesktop();
+    waitForSizes();
+    const test::Accessible note = window().find("label", "Asks for an administrator's password");
+    screen->moveTo(note.place().centre());
+    ASSERT_TRUE(eventually([this] { return screen->windows().size() == 2; }));
+    // It reaches beyond the window's lower edge.
+    test::ScreenWindow both = onScreen();
+    for (const test::ScreenWindow& each : screen->windows()) {
+        const int bottom = each.place.y + each.place.height;
+        both.place.height = std::max(both.place.height, bottom - both.place.y);
+    }
+    screenshot("tooltip", both);
+}
+
+TEST_P(Screenshots, InLargeLetters) {
+    installEverything();
+    box->start("/Users/ann/Applications/Kelmar.app/Contents/MacOS/Kelmar");
+    openOnDesktop("1", largePoints);
+    waitForSizes();
+    screenshot("ready-20-points");
+    screen->scrollDown(onScreen().place.centre(), 30);
+    press("push button", "Choose folders");
+    ASSERT_TRUE(shows("check box: Store (on)"));
+    leave();
+    screenshot("folders-20-points");
+    press("push button", "Uninstall");
+    ASSERT_TRUE(shows("push button: Uninstall and Delete Data"));
+    screenshot("question-20-points");
+    press("push button", "Uninstall and Delete Data");
+    ASSERT_TRUE(shows("label: Waiting for an administrator's password"));
+    screenshot("working-20-points");
+    unblock();
+    ASSERT_TRUE(shows("heading: Kelmar has been removed"));
+    screenshot("finished-20-points");
 }
 
 TEST_P(Screenshots, AtTwiceTheSize) {
