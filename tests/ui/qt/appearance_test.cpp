@@ -115,8 +115,8 @@ TEST_F(Appearance, TheHeaderIsAsHighInEveryPhase) {
     QFont large = before;
     large.setPixelSize(16); // at which the texts, and not the icon, make the height
     QGuiApplication::setFont(large);
-    HeaderWidget header;
-    const auto height = [&header](const std::string& subtitle) {
+    const auto height = [](const std::string& subtitle) {
+        HeaderWidget header;
         header.render({"Uninstall Kelmar", subtitle}, false);
         return std::max(header.minimumHeight(), header.heightForWidth(Look::windowWidth));
     };
