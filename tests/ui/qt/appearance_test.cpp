@@ -117,7 +117,7 @@ TEST_F(Appearance, TheHeaderIsAsHighInEveryPhase) {
     QGuiApplication::setFont(large);
     const auto height = [](const std::string& subtitle) {
         HeaderWidget header;
-        header.render({"Uninstall Kelmar", subtitle}, false);
+        header.render({"Uninstall Kelmar", subtitle});
         return std::max(header.minimumHeight(), header.heightForWidth(Look::windowWidth));
     };
     const int two = height("Removes the Kelmar app, its background services, its settings and the "
