@@ -62,7 +62,6 @@ TEST_F(Window, ListsEverythingThatIsThere) {
         "label: Settings and permissions",
         "label: Preferences, window layout, app logs, caches and privacy permissions",
         "heading: Your data",
-        "label: Delete Kelmar data",
         "label: Delete Kelmar data, " + size,
         "check box: Delete Kelmar data (on)",
         "label: Cases, imported documents, exports, AI models and logs. You can't undo this.",
@@ -108,8 +107,8 @@ TEST_F(Window, TellsWhatEverythingIsToPeopleWhoCannotSeeIt) {
                   "check box: CDN", "check box: CDN_remote", "check box: Database",
                   "check box: Delete Kelmar data", "check box: Export", "check box: Logs",
                   "check box: Models", "check box: Staging", "check box: Store",
-                  "label: Asks for an administrator's password",
-                  "push button: Hide folders", "push button: Quit", "push button: Uninstall"}));
+                  "label: Asks for an administrator's password", "push button: Hide folders",
+                  "push button: Quit", "push button: Uninstall"}));
     EXPECT_EQ(descriptions["Delete Kelmar data"],
               "Cases, imported documents, exports, AI models and logs. You can't undo this.");
     EXPECT_NE(descriptions["Store"], "") << "what is in it";

@@ -90,9 +90,8 @@ TEST_F(WholeUninstall, WithTheKeyboardAlone) {
 
     screen->press("Return");
     ASSERT_TRUE(shows("alert: Delete " + size + " of Kelmar data?"));
-    EXPECT_TRUE(window()
-                    .find("alert", "Delete " + size + " of Kelmar data?")
-                    .is(test::Accessible::modal));
+    EXPECT_TRUE(
+        window().find("alert", "Delete " + size + " of Kelmar data?").is(test::Accessible::modal));
     EXPECT_TRUE(shows("label: Your cases, imported documents, exports and downloaded AI models "
                       "will be deleted for good. You can't undo this."));
     EXPECT_TRUE(focusIsOn("push button: Cancel"));

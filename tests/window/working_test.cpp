@@ -30,9 +30,8 @@ protected:
         ASSERT_TRUE(details.is(Accessible::expandable));
         const bool unfolded = details.is(Accessible::expanded);
         screen->click(details.place().centre());
-        ASSERT_TRUE(eventually([&] {
-            return running->hasEnded() || details.is(Accessible::expanded) != unfolded;
-        }));
+        ASSERT_TRUE(eventually(
+            [&] { return running->hasEnded() || details.is(Accessible::expanded) != unfolded; }));
         ASSERT_FALSE(running->hasEnded());
         EXPECT_EQ(screen->windows().size(), 1U) << "no window says anything";
     }

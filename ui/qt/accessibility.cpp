@@ -81,11 +81,20 @@ public:
     }
 
     void doAction(const QString& name) override {
-        if (name == click()) {
-            button().click();
-        } else {
+        if (name != click()) {
             InRole::doAction(name);
+            return;
         }
+        // Once the screen reader has its answer, which the click on Quit would keep from it; and
+        // only on what the button stands for now.
+        QMetaObject::invokeMethod(
+            &button(),
+            [&button = button(), text = button().text(), on = button().isChecked()] {
+                if (button.text() == text && button.isChecked() == on) {
+                    button.click();
+                }
+            },
+            Qt::QueuedConnection);
     }
 
 private:

@@ -71,13 +71,13 @@ bool PageWidget::isAsking() const {
     return alert_ != nullptr && !alert_->isHidden();
 }
 
-QPushButton* PageWidget::pressedBy(ButtonKey key) const {
+PushButton* PageWidget::pressedBy(ButtonKey key) const {
     // A question is left by either key, whatever has the focus.
     if (isAsking()) {
         return alert_->buttons().pressedBy(key);
     }
-    // Elsewhere Return is the focused button's, as on every desktop that this window is for.
-    auto* const focused = qobject_cast<QPushButton*>(window()->focusWidget());
+    // Elsewhere Return is the focused push button's, as on every desktop that this window is for.
+    auto* const focused = dynamic_cast<PushButton*>(window()->focusWidget());
     if (key == ButtonKey::defaultAction && focused != nullptr && isAncestorOf(focused) &&
         focused->isEnabled()) {
         return focused;
@@ -92,21 +92,21 @@ PageWidget::Focus PageWidget::focused() const {
 }
 
 void PageWidget::press(ButtonKey key) {
-    if (QPushButton* const button = pressedBy(key)) {
+    if (PushButton* const button = pressedBy(key)) {
         button->click();
     }
 }
 
 void PageWidget::highlight() {
-    QPushButton* const button = pressedBy(ButtonKey::defaultAction);
+    PushButton* const button = pressedBy(ButtonKey::defaultAction);
     if (button == highlighted_) {
         return;
     }
-    for (const auto& [each, highlighted] :
-         {std::pair{highlighted_.data(), false}, {button, true}}) {
-        if (auto* const drawn = dynamic_cast<PushButton*>(each)) {
-            drawn->setHighlighted(highlighted);
-        }
+    if (highlighted_ != nullptr) {
+        highlighted_->setHighlighted(false);
+    }
+    if (button != nullptr) {
+        button->setHighlighted(true);
     }
     highlighted_ = button;
 }

@@ -1,10 +1,10 @@
 #pragma once
 
 #include "ui/page.hpp"
+#include "ui/qt/push_button.hpp"
 #include "ui/window_actions.hpp"
 
 #include <QPointer>
-#include <QPushButton>
 #include <QWidget>
 #include <cstddef>
 #include <functional>
@@ -51,7 +51,7 @@ private:
 
     [[nodiscard]] Focus focused() const;
     /// What `key` presses now; null if nothing.
-    [[nodiscard]] QPushButton* pressedBy(ButtonKey key) const;
+    [[nodiscard]] PushButton* pressedBy(ButtonKey key) const;
     void press(ButtonKey key);
     void highlight();
     void renderAlert(const std::optional<Confirmation>& confirmation);
@@ -63,7 +63,7 @@ private:
     ContentWidget* content_;
     FooterWidget* footer_;
     ConfirmationOverlay* alert_ = nullptr; ///< made for the first question
-    QPointer<QPushButton> highlighted_;
+    QPointer<PushButton> highlighted_;
     std::optional<Page> shown_;
     std::function<void(bool)> asking_ = [](bool) {};
     std::size_t changes_ = 0;
