@@ -25,7 +25,7 @@ public:
         if (line.size() > room_) {
             room_ = std::max(blockSize, line.size());
             // Nothing moves when a block is added: lines look into the blocks.
-            blocks_.push_back(std::make_unique<char[]>(room_)); // NOLINT(*-avoid-c-arrays)
+            blocks_.push_back(std::make_unique<char[]>(room_));
             free_ = blocks_.back().get();
         }
         std::copy(line.begin(), line.end(), free_);
@@ -37,7 +37,7 @@ public:
 private:
     static constexpr std::size_t blockSize = 65'536;
 
-    std::vector<std::unique_ptr<char[]>> blocks_; // NOLINT(*-avoid-c-arrays)
+    std::vector<std::unique_ptr<char[]>> blocks_;
     std::vector<std::string_view> lines_;
     char* free_ = nullptr; ///< what is left of the last block
     std::size_t room_ = 0;
