@@ -3,7 +3,6 @@
 #include <QFontMetricsF>
 #include <algorithm>
 #include <cmath>
-#include <utility>
 
 namespace kelmar {
 
@@ -23,8 +22,8 @@ bool isAscii(const QString& text) {
 
 } // namespace
 
-LogText::LogText(QFont font)
-    : font_(std::move(font)),
+LogText::LogText(const QFont& font)
+    : font_(font),
       rowHeight_(static_cast<int>(std::ceil(QFontMetricsF(font_).lineSpacing()))),
       widest_(widestOf(QFontMetricsF(font_))) {}
 

@@ -25,7 +25,7 @@ public:
         friend auto operator<=>(const Place&, const Place&) = default;
     };
 
-    explicit LogText(QFont font);
+    explicit LogText(const QFont& font);
 
     /// Shows `log` from its beginning, or goes on with what it has become.
     void setLog(const LogLines& log);

@@ -43,7 +43,7 @@ protected:
 private:
     /// What has the focus, and what a button that has it stands for.
     struct Focus {
-        QWidget* widget; ///< may be gone by now
+        QWidget* widget = nullptr; ///< may be gone by now
         std::optional<Action> action;
 
         friend bool operator==(const Focus&, const Focus&) = default;
