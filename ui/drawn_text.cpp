@@ -6,8 +6,9 @@ namespace kelmar {
 
 namespace {
 
-constexpr std::string_view firstStrongIsolate = "\u2068";
-constexpr std::string_view popIsolate = "\u2069";
+// In bytes: U+2068 and U+2069 would turn the lines of this source, too.
+constexpr std::string_view firstStrongIsolate = "\xE2\x81\xA8";
+constexpr std::string_view popIsolate = "\xE2\x81\xA9";
 constexpr std::string_view zeroWidthSpace = "\u200B";
 constexpr std::string_view replacement = "\uFFFD";
 
