@@ -2,13 +2,16 @@
 
 #include "system/text/harmless_text.hpp"
 
+#include <array>
+
 namespace kelmar {
 
 namespace {
 
-// In bytes: U+2068 and U+2069 would turn the lines of this source, too.
-constexpr std::string_view firstStrongIsolate = "\xE2\x81\xA8";
-constexpr std::string_view popIsolate = "\xE2\x81\xA9";
+// U+2068, byte by byte: as text it would turn the lines of this source, too.
+constexpr std::array isolate{'\xE2', '\x81', '\xA8'};
+constexpr std::string_view firstStrongIsolate(isolate.data(), isolate.size());
+constexpr std::string_view popIsolate = "\u2069";
 constexpr std::string_view zeroWidthSpace = "\u200B";
 constexpr std::string_view replacement = "\uFFFD";
 
