@@ -8,7 +8,11 @@ set(names
     "C" # the kind of linkage
     "file " # before a path and
     "symbol " # before a name, so that the two are not taken for each other
-    "kelmarAccessibleRole") # a property
+    "AXHeading" # a role, in the toolkit's spelling
+    "kelmarAccessibleRole" # properties
+    "kelmarAccessiblyExpanded"
+    "kelmarAccessiblyHidden"
+    "kelmarAccessiblyModal")
 
 set(findings "")
 foreach(folder IN ITEMS ui/qt ui/appkit)

@@ -205,7 +205,7 @@ TEST_F(WholeUninstall, DeletesWhatAScreenReaderLeftTicked) {
     EXPECT_FALSE(isThere(inHome("Store")));
     ASSERT_TRUE(window().find("push button", "Details").press());
     ASSERT_TRUE(shows("text: Details"));
-    ASSERT_TRUE(window().find("push button", "Quit").press());
+    static_cast<void>(window().find("push button", "Quit").press()); // it may end before it answers
     EXPECT_LE(expectEnd(), test::exitTimeout);
 }
 

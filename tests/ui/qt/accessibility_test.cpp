@@ -228,7 +228,7 @@ TEST_F(Accessibility, NamesAreAsHarmlessAsTheyAreDrawn) {
             }
         }
     }
-    EXPECT_EQ(found, 14) << "every name and description that has the name in it";
+    EXPECT_EQ(found, 15) << "every name and description that has the name in it";
 }
 
 TEST_F(Accessibility, ALineOfTheRecordCannotPretendToBeTwo) {
