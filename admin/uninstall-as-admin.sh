@@ -19,6 +19,7 @@
 # without a path, in a folder whose device and inode are those that were listed in the folder above it. Where the
 # kernel's sandbox is at hand, it holds zsh to the item as well. What is deleted is named by this file alone, never
 # by a file that a user can write, and nothing that belongs to Kelmar is ever executed.
+# shellcheck disable=SC2016 # what stands in single quotes is for another shell
 
 # Nothing of the caller's environment may decide what runs here: no exported functions, no shell options. A shell
 # started with -p takes none of them. That it was is said by an argument, which no variable can plant; in POSIX mode

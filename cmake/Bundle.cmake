@@ -40,9 +40,8 @@ target_link_options(kelmar-uninstaller PRIVATE -Wl,-dead_strip -Wl,-x -Wl,-heade
 set(bundle ${PROJECT_BINARY_DIR}/Kelmar\ Uninstaller.app)
 add_custom_target(
   bundle ALL
-  COMMAND
-    ${CMAKE_COMMAND} -D EXECUTABLE=$<TARGET_FILE:kelmar-uninstaller> -D ICON=${icon}
-    -D INFORMATION=${PROJECT_BINARY_DIR}/Info.plist -D BUNDLE=${bundle} -P ${packaging}/assemble.cmake
+  COMMAND ${CMAKE_COMMAND} -D EXECUTABLE=$<TARGET_FILE:kelmar-uninstaller> -D ICON=${icon} -D
+          INFORMATION=${PROJECT_BINARY_DIR}/Info.plist -D BUNDLE=${bundle} -P ${packaging}/assemble.cmake
   COMMAND codesign --force --sign - --options runtime --entitlements ${packaging}/entitlements.plist ${bundle}
   DEPENDS kelmar-uninstaller ${icon}
   COMMENT "Putting Kelmar Uninstaller.app together"

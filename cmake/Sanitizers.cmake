@@ -2,8 +2,7 @@
 set(KELMAR_SANITIZERS "" CACHE STRING "Sanitizers to build everything with")
 
 if(KELMAR_SANITIZERS)
-  add_compile_options(-fsanitize=${KELMAR_SANITIZERS} -fno-sanitize-recover=all
-                      -fno-omit-frame-pointer)
+  add_compile_options(-fsanitize=${KELMAR_SANITIZERS} -fno-sanitize-recover=all -fno-omit-frame-pointer)
   add_link_options(-fsanitize=${KELMAR_SANITIZERS})
 endif()
 

@@ -59,7 +59,12 @@ foreach(library Foundation AppKit CoreFoundation objc)
   else()
     set(stub ${OUTPUT}/${library}.framework/${library}.tbd)
   endif()
-  file(CONFIGURE OUTPUT ${stub} CONTENT "--- !tapi-tbd
+  file(
+    CONFIGURE
+    OUTPUT
+    ${stub}
+    CONTENT
+    "--- !tapi-tbd
 tbd-version: 4
 targets: @targets@
 install-name: '@place_${library}@'
@@ -70,5 +75,6 @@ exports:
     symbols: [ @symbols@ ]
     objc-classes: [ @classes@ ]
 ...
-" @ONLY)
+"
+    @ONLY)
 endforeach()

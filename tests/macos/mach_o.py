@@ -9,7 +9,6 @@ LC_SEGMENT_64 = 0x19
 LC_CODE_SIGNATURE = 0x1D
 
 
-
 def slices(data):
     """The executables in a universal one, by architecture."""
     magic, count = struct.unpack_from(">II", data)

@@ -34,9 +34,11 @@ def main(folder, sdk_folder):
     errors += known.complaints(comparison, missing, apart, different, renamed)
     for line in errors:
         print(line)
-    print(f"{comparison.agreeing} declarations agree with GNUstep's, {len(comparison.renamed)} of them by an "
-          f"older name; {len(comparison.absent)} it has not, {len(comparison.different)} differ. "
-          f"{len(missing)} are not as in the SDK.")
+    print(
+        f"{comparison.agreeing} declarations agree with GNUstep's, {len(comparison.renamed)} of them by an "
+        f"older name; {len(comparison.absent)} it has not, {len(comparison.different)} differ. "
+        f"{len(missing)} are not as in the SDK."
+    )
     return 1 if errors or comparison.agreeing == 0 else 0
 
 

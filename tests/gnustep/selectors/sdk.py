@@ -131,8 +131,10 @@ def values_of(sdk, name, renamed):
     """The values that a constant of that name can have: those of sets that it may belong to."""
     for group, values in sdk.sets.items():
         for each, value in values.items():
-            if renamed.get(f"constant {name}") == f"{group}.{each}" or name.endswith(each) and (
-                name == group + each or shares_a_beginning(name, each, group)
+            if (
+                renamed.get(f"constant {name}") == f"{group}.{each}"
+                or name.endswith(each)
+                and (name == group + each or shares_a_beginning(name, each, group))
             ):
                 yield value
 

@@ -23,7 +23,9 @@ __attribute__((objc_root_class)) @interface NSObject
 @class NSString;
 """
 
-THERE = ROOT + """
+THERE = (
+    ROOT
+    + """
 @protocol Moving
 - (void)moveTo:(CGFloat)place;
 @end
@@ -41,6 +43,7 @@ enum { Off = 0, On = 1 };
 extern NSString *const Name;
 int count(View *view);
 """
+)
 
 
 def compared(declarations, there=THERE, older=None):
@@ -213,8 +216,13 @@ class Lists(unittest.TestCase):
     def complaints(self, apart, different, renamed=(), found=("-[Button setTags:]",)):
         renamed = dict(renamed)
         comparison = compared(button("- (void)setTag:(int)tag;") + "\nenum { On = 1 };", older=renamed)
-        return known.complaints(comparison, dict.fromkeys(found, "why"), dict.fromkeys(apart, "why"),
-                                dict.fromkeys(different, "why"), renamed)
+        return known.complaints(
+            comparison,
+            dict.fromkeys(found, "why"),
+            dict.fromkeys(apart, "why"),
+            dict.fromkeys(different, "why"),
+            renamed,
+        )
 
     def test_what_is_listed_is_accepted(self):
         self.assertEqual(self.complaints(["-[Button setTags:]"], ["-[Button setTag:]"]), [])
@@ -257,13 +265,13 @@ class Whole(unittest.TestCase):
 
     def test_a_misspelt_selector_is_refused(self):
         end = self.run_on("Foundation/NSString.h", "allowLossyConversion:", "allowLossyConversions:")
-        self.assertIn("not in the SDK, and not listed: -[NSString dataUsingEncoding:allowLossyConversions:]",
-                      end.stdout)
+        self.assertIn(
+            "not in the SDK, and not listed: -[NSString dataUsingEncoding:allowLossyConversions:]", end.stdout
+        )
         self.assertEqual(end.returncode, 1)
 
     def test_a_wrong_type_is_refused(self):
-        end = self.run_on("Foundation/NSString.h", "allowLossyConversion:(BOOL)",
-                          "allowLossyConversion:(NSInteger)")
+        end = self.run_on("Foundation/NSString.h", "allowLossyConversion:(BOOL)", "allowLossyConversion:(NSInteger)")
         self.assertIn("different, and not listed: -[NSString dataUsingEncoding:allowLossyConversion:]", end.stdout)
         self.assertEqual(end.returncode, 1)
 

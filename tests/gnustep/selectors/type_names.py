@@ -27,7 +27,12 @@ if not hasattr(TypeKind, "OBJCTYPEPARAM"):
 
 SIGNED = {TypeKind.CHAR_S, TypeKind.SCHAR, TypeKind.SHORT, TypeKind.INT, TypeKind.LONG, TypeKind.LONGLONG}
 UNSIGNED = {
-    TypeKind.CHAR_U, TypeKind.UCHAR, TypeKind.USHORT, TypeKind.UINT, TypeKind.ULONG, TypeKind.ULONGLONG,
+    TypeKind.CHAR_U,
+    TypeKind.UCHAR,
+    TypeKind.USHORT,
+    TypeKind.UINT,
+    TypeKind.ULONG,
+    TypeKind.ULONGLONG,
 }
 REAL = {TypeKind.FLOAT, TypeKind.DOUBLE, TypeKind.LONGDOUBLE}
 ARRAY = {TypeKind.CONSTANTARRAY, TypeKind.INCOMPLETEARRAY, TypeKind.VARIABLEARRAY}
