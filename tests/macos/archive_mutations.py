@@ -39,7 +39,7 @@ def a_file_beside_the_bundle(build):
 
 @mutation(checks.archive, packed_anew=False)
 def another_order(build):
-    repack(build, lambda entries: reversed(entries))
+    repack(build, reversed)
 
 
 @mutation(checks.archive, packed_anew=False)

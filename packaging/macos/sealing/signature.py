@@ -6,7 +6,7 @@ requirements; and a wrapper for a signer's message, which is empty."""
 import hashlib
 import struct
 
-from . import mach_o
+from sealing import mach_o
 
 SUPER_BLOB, DIRECTORY, REQUIREMENTS, WRAPPER = 0xFADE0CC0, 0xFADE0C02, 0xFADE0C01, 0xFADE0B01
 DIRECTORY_SLOT, REQUIREMENTS_SLOT, WRAPPER_SLOT = 0, 2, 0x10000

@@ -22,16 +22,15 @@ from comparison import Comparison
 def main(folder, sdk_folder):
     beside = os.path.dirname(os.path.abspath(__file__))
     errors = []
-    lists = []
-    for name in ("sdk-apart.txt", "different.txt", "renamed.txt", "sdk-renamed.txt"):
-        entries, complaints = known.read(os.path.join(beside, name))
-        lists.append(entries)
+    lists = {}
+    for name in ("sdk-apart", "different", "renamed", "sdk-renamed"):
+        lists[name], complaints = known.read(os.path.join(beside, f"{name}.txt"))
         errors += complaints
-    apart, different, renamed, sdk_renamed = lists
+    renamed = lists["renamed"]
     here = headers.declared(folder)
     comparison = Comparison(here, headers.gnustep(), renamed).run()
-    missing = dict(sdk.missing(here, sdk.read(sdk_folder), sdk_renamed))
-    errors += known.complaints(comparison, missing, apart, different, renamed)
+    missing = dict(sdk.missing(here, sdk.read(sdk_folder), lists["sdk-renamed"]))
+    errors += known.complaints(comparison, missing, lists["sdk-apart"], lists["different"], renamed)
     for line in errors:
         print(line)
     print(
@@ -45,4 +44,4 @@ def main(folder, sdk_folder):
 if __name__ == "__main__":
     if len(sys.argv) != 3:
         sys.exit(__doc__)
-    sys.exit(main(*sys.argv[1:]))
+    sys.exit(main(sys.argv[1], sys.argv[2]))

@@ -69,7 +69,7 @@ def read_lines(lines, sdk):
             container = values = None
         elif values is not None and VALUE.match(line):
             name, value = VALUE.match(line).groups()
-            values[name] = int(value)
+            values[name] = int(value)  # pylint: disable=unsupported-assignment-operation # it is a table here
         elif container is not None and line.startswith("  ") and not line.startswith("  //"):
             read_member(line, container)
         elif CONTAINER.match(line):
