@@ -10,8 +10,4 @@ constexpr const char* noDisplay =
     "Kelmar Uninstaller finds no display to open its window on. Use --scan to list what "
     "Kelmar has here, or --help for all options.";
 
-// The state of what a control unfolds, for screen readers.
-constexpr const char* folded = "Folded";
-constexpr const char* unfolded = "Unfolded";
-
 } // namespace kelmar::Texts
