@@ -104,9 +104,9 @@ TEST(Page, ReadyWithoutDataHasNoDataSection) {
 
 TEST(Page, ReadyUnfoldsTheFolders) {
     const Published published = in(Model::Ready{});
-    const auto data = contentOf<ReadyContent>(pageOf(published, true)).data;
-    EXPECT_EQ(data, dataSection(published, test::machine, true));
-    EXPECT_NE(data, dataSection(published, test::machine, false));
+    const auto section = contentOf<ReadyContent>(pageOf(published, true)).data;
+    EXPECT_EQ(section, dataSection(published, test::machine, true));
+    EXPECT_NE(section, dataSection(published, test::machine, false));
 }
 
 TEST(Page, ReadyShowsTheNoticeAbove) {
