@@ -8,7 +8,10 @@ namespace kelmar {
 /// nothing, where it does.
 template <typename Control>
 void setState(Control* control, BOOL on) {
-    const NSControlStateValue state = on == YES ? NSControlStateValueOn : NSControlStateValueOff;
+    // On GNUstep some controls' states are signed, and others' are not.
+    using State = decltype([control state]);
+    const auto state =
+        static_cast<State>(on == YES ? NSControlStateValueOn : NSControlStateValueOff);
     if ([control state] != state) {
         [control setState:state];
     }
