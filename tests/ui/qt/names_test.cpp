@@ -68,7 +68,7 @@ TEST_F(Names, AVeryDeepPathWraps) {
 
 TEST_F(Names, EmojiOfManyPartsFit) {
     std::string name;
-    for (int times = 0; times < 100; ++times) {
+    for (int times = 0; times < 25; ++times) { // as long as a path can be
         name += "👩‍👩‍👧‍👦🏳️‍🌈";
     }
     renderWith(name);
