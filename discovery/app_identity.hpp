@@ -5,7 +5,7 @@
 
 namespace kelmar {
 
-/// How the product's app is told from others while it runs.
+/// How to recognise the product's running app.
 ApplicationIdentity appIdentity(const KelmarPaths& paths);
 
 } // namespace kelmar

@@ -33,7 +33,7 @@ bool DataFolder::isKnown(std::string_view name) {
 }
 
 bool Inventory::isEmpty() const {
-    // A data root is only there for the folders in it.
+    // A data root is present only if it has folders.
     return installations.empty() && loadedServices.empty() && settings.empty() &&
            keychainItems.empty() && dataFolders().empty();
 }

@@ -10,7 +10,7 @@
 #include <string_view>
 #include <vector>
 
-/// What a scan found: plain values that hold paths and names and never touch the file system.
+/// What a scan found: plain values that hold paths and names and never access the file system.
 namespace kelmar {
 
 /// One installation of the product, for one scope.
@@ -21,9 +21,9 @@ struct Installation {
     std::optional<std::string> services;   ///< path of the services folder, if it exists
     std::vector<std::string> agents;       ///< the launch agents' property lists that exist
     std::vector<std::string> receipts;     ///< identifiers of the package receipts that exist
-    bool needsAdministrator = false;       ///< some file belongs to another user (for `me` alone)
+    bool needsAdministrator = false;       ///< another user owns some of the files (for `me` only)
 
-    /// The app, the services folder and the agents, those that there are. Receipts are no paths.
+    /// Those of the app, the services folder and the agents that exist. Receipts have no path.
     [[nodiscard]] std::vector<std::string> paths() const;
 
     friend bool operator==(const Installation&, const Installation&) = default;
@@ -32,19 +32,19 @@ struct Installation {
 /// One of the product's own folders inside a data root. Its path is its identity.
 struct DataFolder {
     std::string name;
-    std::string summary; ///< what it holds, in words for people
+    std::string summary; ///< describes the content, for people
     std::string path;
-    std::optional<std::int64_t> bytes; ///< absent until measured, and when measuring failed
+    std::optional<std::int64_t> bytes; ///< absent until measured, and if measuring failed
 
-    /// A name that the product gives to a data folder, and what such a folder holds.
+    /// The name of a data folder, and what such a folder holds.
     struct Known {
         std::string_view name;
         std::string_view summary;
     };
 
-    /// The product's data folders, in the order in which they are listed. Names count exactly as
-    /// they are written here. `uninstall-as-admin.sh` has the names a second time, since root takes
-    /// no list from a user's program; a test keeps the two alike.
+    /// The product's data folders, in the order in which they are listed. Names are case-sensitive.
+    /// `uninstall-as-admin.sh` repeats them, since root takes no list from a user's program; a test
+    /// compares the two.
     static constexpr std::array<Known, 8> known{{
         {"Database", "Case databases"},
         {"Store", "Imported documents"},
@@ -71,11 +71,11 @@ struct DataRoot {
     friend bool operator==(const DataRoot&, const DataRoot&) = default;
 };
 
-/// Why removing something takes an administrator. What is asked for and what people are told of it
-/// follow from these alone; where a text gives one reason, the first that holds is the one.
+/// Why removing something needs an administrator. The prompt and all texts about it derive from
+/// these values. A text that gives one reason gives the first that holds.
 struct AdministratorReasons {
     bool allUsers = false; ///< an installation for all users
-    bool ownFiles = false; ///< files in the current user's installation that are somebody else's
+    bool ownFiles = false; ///< somebody else's files in the current user's installation
     std::vector<DataFolder> sharedData; ///< the chosen folders of the shared data, in order
 
     [[nodiscard]] bool any() const { return allUsers || ownFiles || !sharedData.empty(); }
@@ -92,7 +92,8 @@ struct Inventory {
     std::vector<std::string> keychainItems; ///< service names, this edition's before the former's
     std::vector<DataRoot> dataRoots;        ///< at most one a scope, `me` first
 
-    /// Nothing of the product is here. A running app does not count: there is nothing to remove.
+    /// Returns true if nothing of the product is installed. A running app alone does not count:
+    /// there is nothing to remove.
     [[nodiscard]] bool isEmpty() const;
 
     /// The folders of all data roots, in order.
@@ -111,7 +112,7 @@ struct Inventory {
     [[nodiscard]] AdministratorReasons
     administratorReasons(const std::set<std::string>& deleting) const;
 
-    /// Whether there is such a reason.
+    /// Returns true if any of these reasons holds.
     [[nodiscard]] bool needsAdministrator(const std::set<std::string>& deleting) const;
 
     friend bool operator==(const Inventory&, const Inventory&) = default;

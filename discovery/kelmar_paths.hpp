@@ -8,33 +8,34 @@
 
 namespace kelmar {
 
-/// Whom an installation, or a data root, is there for.
+/// For whom an installation or a data root exists.
 enum class Scope {
     allUsers,
     me,
 };
 
-/// Where things are: every path that the program inspects or removes is built from this record,
-/// made once at start-up and passed by value. With a test root all of them lie below that folder.
+/// The program builds every path that it inspects or removes from this record, which is made once
+/// at start-up and passed by value. With a test root, all paths lie below that folder.
 struct KelmarPaths {
-    /// Empty on the real machine, so that the system's paths come out as they are; else an absolute
-    /// path without a trailing slash.
+    /// Empty on the real machine, so that system paths have no prefix; else an absolute path
+    /// without a trailing slash.
     std::string systemRoot;
     std::string home;               ///< absolute, standardised
     std::string temporaryDirectory; ///< absolute, standardised
     std::optional<std::string> testRoot;
 
-    /// Names that the desktop's file browser leaves in folders. They never count as content.
+    /// Names of files that the desktop's file browser leaves in folders; they do not count as
+    /// content.
     static constexpr std::array<std::string_view, 2> ignorableNames{".DS_Store", ".localized"};
     static bool isIgnorable(std::string_view name);
 
     /// The paths below the folder that the environment variable KELMAR_UNINSTALLER_TEST_ROOT names,
-    /// when it holds an absolute path other than "/"; else those of this machine and user. Nothing
-    /// is created or checked.
+    /// if it holds an absolute path other than "/"; else those of this machine and user. Creates
+    /// and checks nothing.
     static KelmarPaths current();
 
-    /// `path` in the short form that people are shown: "~" for the home folder, and without the
-    /// test root's prefix for a system path under a test root.
+    /// `path` as people see it: "~" replaces the home folder, and a system path under a test root
+    /// loses the test root's prefix.
     [[nodiscard]] std::string display(const std::string& path) const;
 
     /// The folder that a scope's paths begin with: `systemRoot` or `home`.

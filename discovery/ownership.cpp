@@ -11,7 +11,7 @@ namespace kelmar {
 
 namespace {
 
-/// The walk waits for the kernel's own locks more than for a processor: more threads gain nothing.
+/// The walk is bound by the kernel's locks, not by processors: more threads gain nothing.
 constexpr unsigned threadLimit = 4;
 
 } // namespace

@@ -23,7 +23,7 @@ namespace {
 
 using Folder = std::shared_ptr<PendingDirectory>;
 
-/// Below this number of waiting folders a second thread costs more than it saves.
+/// With fewer waiting folders, a second thread costs more than it saves.
 constexpr std::size_t worthSharing = 16;
 
 class Walk {
@@ -69,7 +69,7 @@ private:
         }
     }
 
-    /// Called with the lock held. Help that the system refuses is done without.
+    /// Call with the lock held. If a thread cannot be started, the walk continues without it.
     void callHelp() {
         try {
             for (unsigned count = 1; count < threads_; ++count) {
@@ -80,7 +80,8 @@ private:
         }
     }
 
-    /// The folders directly inside `folder`; sets `refuted_` when an entry decides the question.
+    /// Returns the folders directly inside `folder`; sets `refuted_` if an entry decides the
+    /// question.
     std::vector<Folder> examine(const Folder& folder) {
         FileDescriptor descriptor = folder->open();
         std::vector<Folder> inside;
@@ -109,7 +110,7 @@ private:
 
     std::mutex mutex_;
     std::condition_variable changed_;
-    std::vector<Folder> waiting_; ///< last in, first out, which keeps their number small
+    std::vector<Folder> waiting_; ///< a stack: depth first keeps it small
     std::size_t atWork_ = 0;
 };
 

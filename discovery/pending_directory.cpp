@@ -11,16 +11,16 @@ namespace {
 
 constexpr std::size_t pieceLimit = 4000; ///< bytes; below what any system takes as one path
 
-/// How many folders stay open for the sake of those inside them. Most trees need no more than the
-/// first figure; in deeper ones every 64th level stays open as well, so that no folder is far from
-/// an open one.
+/// How many folders stay open so that the folders inside them can be opened. Most trees need only
+/// the first figure. In deeper trees every 64th level stays open as well, so that each folder has
+/// an open ancestor nearby.
 constexpr int keptOpen = 48;
 constexpr int keptOpenAtMilestones = 144;
 constexpr std::size_t milestone = 64;
 
 } // namespace
 
-/// Lets go of the folders above one after another: left to themselves they would go by recursion.
+/// Releases ancestors iteratively; default destruction would recurse.
 PendingDirectory::~PendingDirectory() {
     if (openCount_ != nullptr) {
         openCount_->fetch_sub(1);

@@ -10,9 +10,9 @@
 
 namespace kelmar {
 
-/// A folder of a tree that waits to be looked into, known by its name and the folder above it. The
-/// one above lives as long as one inside it waits. It may be open or not: a tree can have more
-/// folders than a process may have open files, and paths longer than the system takes.
+/// A folder of a tree that waits to be examined, known by its name and its parent. It keeps its
+/// parent alive. A folder need not be open: a tree can have more folders than a process may have
+/// file descriptors, and paths longer than the system accepts.
 class PendingDirectory {
 public:
     /// The topmost folder of a tree, open.
@@ -27,13 +27,13 @@ public:
     PendingDirectory& operator=(const PendingDirectory&) = delete;
     ~PendingDirectory();
 
-    /// Opens this folder, found from the nearest one above that is open; not open when that fails.
-    /// A link in its place is not followed. The topmost folder gives its own descriptor away.
+    /// Opens this folder by way of its nearest open ancestor; the result is not open if that fails.
+    /// Does not follow a symlink in its place. The topmost folder gives up its own descriptor.
     [[nodiscard]] FileDescriptor open();
 
-    /// Keeps `descriptor`, this folder's own, for the sake of those inside it, if the number of
-    /// folders kept open so far, `count`, allows it. Called before any folder inside waits; no
-    /// change after that.
+    /// Keeps this folder's `descriptor` open for the folders inside it, if `count`, the number of
+    /// folders kept open so far, allows it. Call it before any folder inside waits; not thread-safe
+    /// after that.
     void keepOpen(FileDescriptor descriptor, std::atomic<int>& count);
 
 private:

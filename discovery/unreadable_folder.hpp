@@ -5,9 +5,9 @@
 
 namespace kelmar {
 
-/// The first folder at or beneath `path`, links not followed, that belongs to this user and that
-/// this user may nevertheless not read or search. `Scanner::ownedByMe` counts such a folder as
-/// somebody else's. Absent when there is none; folders of others are not looked into.
+/// Finds the first folder at or beneath `path` that this user owns but may not read or search;
+/// symlinks are not followed. `Scanner::ownedByMe` returns false for such a folder. Absent if there
+/// is none. Does not look into other users' folders.
 std::optional<std::string> unreadableFolderOfMine(const std::string& path);
 
 } // namespace kelmar
