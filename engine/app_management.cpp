@@ -9,7 +9,7 @@ namespace {
 
 constexpr std::string_view refused = "Operation not permitted"; // EPERM, in rm(1)'s words
 
-/// In `text` stands an app, or something inside one.
+/// Returns true if `text` names an app, or something inside one.
 bool namesAnApp(std::string_view text) {
     return text.ends_with(".app") || text.find(".app/") != std::string_view::npos ||
            text.find(".app:") != std::string_view::npos;

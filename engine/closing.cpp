@@ -25,14 +25,14 @@ constexpr double forcedWait = 5;
 constexpr double killWait = 3;
 
 bool hasGone(pid_t process) {
-    // EPERM: it is there, but somebody else's.
+    // EPERM: the process exists, but is somebody else's.
     return ::kill(process, 0) != 0 && errno != EPERM;
 }
 
-/// To those that have not ended: what answers to their numbers now is another process's.
+/// Signals held processes only: another process may have got the number of one that has ended.
 void signalAll(const std::vector<HeldProcess>& processes, int signal) {
     for (const HeldProcess& process : processes) {
-        static_cast<void>(process.signal(signal)); // whether it helped is seen next
+        static_cast<void>(process.signal(signal)); // the next wait shows whether it worked
     }
 }
 
@@ -90,7 +90,7 @@ void Uninstaller::quitKelmar() {
         return;
     }
     for (const RunningApplication& application : running) {
-        static_cast<void>(application.forceTerminate()); // whether it helped is seen next
+        static_cast<void>(application.forceTerminate()); // the next wait shows whether it worked
     }
     if (waitForExit(all, forcedWait)) {
         log("Forced Kelmar to close.");

@@ -19,7 +19,7 @@ void Uninstaller::remove(const std::string& path) {
     }
     removing_ = true;
     doing("Removing " + paths.display(path));
-    // A reason is one line, and rm(1) may write one for every file.
+    // A reason is one line, but rm(1) may print one for every file.
     constexpr std::size_t enough = 65536;
     const std::vector<std::string> lines =
         nonEmptyLines(Shell::run("/bin/rm", {"-rf", "--", path}, enough).output);
@@ -52,15 +52,15 @@ void Uninstaller::removeSettings() {
                                           preferences) != inventory.settings.end();
     if (!paths.testRoot && hasPreferences && !ends()) {
         removing_ = true;
-        // Else the system's preferences cache, which still knows them, would write the file anew.
+        // The system's preferences cache would otherwise write the file again.
         Preferences::deleteDomain(identifier);
     }
     for (const std::string& path : inventory.settings) {
         remove(path);
     }
     for (const std::string& name : inventory.keychainItems) {
-        // Each run deletes one item; several may bear the name, and a keychain that misbehaves has
-        // a bound.
+        // Each run deletes one item. Several may have the name; the limit guards against a keychain
+        // that reports success without deleting.
         constexpr int limit = 5;
         if (ends()) {
             return;
@@ -77,8 +77,8 @@ void Uninstaller::removeSettings() {
 }
 
 void Uninstaller::removeIfEmpty(const std::string& path) {
-    // Something may be saved in the folder after each look at it: rmdir(2) then fails, where rm(1)
-    // would take it along, and the next look says what it is.
+    // Something may be saved in the folder after each look. Then rmdir(2) fails, where rm(1) would
+    // delete it, and the next look reports what it is.
     constexpr int looks = 3;
     std::error_code error;
     for (int look = 0; look < looks; ++look) {

@@ -10,7 +10,7 @@ namespace kelmar {
 
 namespace {
 
-/// Where processes of the current user's installation run from.
+/// The folders from which processes of the current user's installation run.
 std::vector<std::string> programFolders(const Installation& installation) {
     std::vector<std::string> folders;
     for (const std::optional<std::string>& folder : {installation.app, installation.services}) {
@@ -37,8 +37,8 @@ void Uninstaller::cleanAccount() {
             remove(path);
         }
         for (const std::string& identifier : mine->receipts) {
-            // The administrator's script may have forgotten it already, and pkgutil complains about
-            // one that it does not know.
+            // The administrator's script may have forgotten the receipt already, and pkgutil
+            // complains about an unknown one.
             if (!paths.testRoot && Pkgutil::hasReceipt(identifier, paths.home)) {
                 forgetReceipt(identifier);
             }
@@ -83,7 +83,7 @@ void Uninstaller::sweepTemporaryFolder(const KelmarPaths& paths) {
 
 Uninstaller::Outcome Uninstaller::run(Emit callback, ShouldEnd shouldEnd) {
     const Failure shortage{"Kelmar Uninstaller", "memory ran out before it was done"};
-    // Made while there is memory for it.
+    // Allocated now, while there is memory.
     Finished withoutMemory{{shortage}};
     try {
         emit = std::move(callback);
@@ -114,12 +114,12 @@ Uninstaller::Outcome Uninstaller::runStages() {
             if (!removing_) {
                 restartStoppedServices();
             }
-            // What ends the run may have ended the password prompt as well.
+            // The signal that ends the run may have ended the password prompt as well.
             return ends() ? Outcome(Interrupted{verify()}) : Outcome(Cancelled{});
         }
         emit(StageFinished{titled.stage});
     }
-    // What ends the run may have ended a tool in the middle of the last removal.
+    // The signal that ends the run may have ended a tool during the last removal.
     const bool ending = ends();
     std::vector<Failure> left = verify();
     if (ending && !left.empty()) {

@@ -19,11 +19,11 @@ namespace kelmar {
 
 class AdministratorRunner;
 
-/// The engine: removes the product. Made for one uninstall from a scan and a choice of data, asked
-/// for its `stages`, run once and dropped. `run` blocks its thread, for minutes if need be; nothing
-/// here throws.
+/// The engine: removes the product. Construct it for one uninstall, from a scan and a choice of
+/// data; read its `stages`, call `run` once, and destroy it. `run` blocks its thread, possibly for
+/// minutes. Nothing here throws.
 ///
-/// The steps are public so that each can be tested by itself; a front end calls `stages` and `run`.
+/// The steps are public so that tests can call each one; a front end calls `stages` and `run`.
 class Uninstaller {
 public:
     using Stage = Uninstall::Stage;
@@ -41,7 +41,7 @@ public:
     using Emit = std::function<void(const Event&)>;
     using ShouldEnd = std::function<bool()>;
 
-    /// A service that was stopped, and the property list that starts it again.
+    /// A service that was stopped, and the property list with which to start it again.
     struct StoppedService {
         std::string label;
         std::string plist;
@@ -52,16 +52,16 @@ public:
     enum class AdministratorOutcome {
         finished,
         cancelled, ///< nothing ran
-        failed,    ///< the script could not be run, or failed as a whole; a failure was recorded
+        failed,    ///< the script could not be run, or failed as a whole; a failure was added
     };
 
-    /// `chosenData` holds the paths of the data folders to delete. Without a `runner` it is the
-    /// usual one.
+    /// `chosenData` holds the paths of the data folders to delete. If `runner` is null,
+    /// `usualRunner` is used.
     Uninstaller(KelmarPaths where, Inventory found, std::set<std::string> chosenData,
                 std::shared_ptr<AdministratorRunner> runner = nullptr);
 
-    /// The runner of a real uninstall: the system's password prompt, or under a test root the
-    /// current user, who is asked for nothing.
+    /// The runner of a real uninstall: the system's password prompt. Under a test root: the current
+    /// user, without a prompt.
     static std::shared_ptr<AdministratorRunner> usualRunner(const KelmarPaths& paths);
 
     const KelmarPaths paths;
@@ -71,31 +71,31 @@ public:
     Emit emit = [](const Event&) {};
     std::vector<Failure> failures;
     std::vector<StoppedService> stoppedServices;
-    /// Where the system lets a person allow the removal of apps; empty where it asks for nothing.
+    /// Where in the system's settings to allow the removal of apps; empty if the system needs no
+    /// permission.
     std::string appManagement = appManagementSettings();
 
-    /// The stages that a run will have, in order; computed afresh at every call.
+    /// The stages that a run will have, in order; computed at every call.
     [[nodiscard]] std::vector<TitledStage> stages() const;
 
-    /// The whole uninstall. `callback` is called during the run only, never twice at once: on this
-    /// thread, or, while this thread waits for the administrator's script, on the thread that
-    /// follows its progress.
+    /// Runs the whole uninstall. Calls `callback` only while it runs, and never concurrently: on
+    /// this thread, or, while this thread waits for the administrator's script, on the thread that
+    /// follows the script's progress.
     ///
-    /// `shouldEnd` is asked before each step. Once it answers true, no further step begins,
-    /// services that were stopped are started again if nothing has been removed yet, and the
-    /// outcome is `Interrupted`; that is an outcome only of a run that skipped a step or left
-    /// something.
+    /// Calls `shouldEnd` before each step. Once it returns true, no further step begins, and
+    /// stopped services are started again if nothing has been removed yet. The outcome is then
+    /// `Interrupted`, provided that a step was skipped or something is left.
     ///
-    /// Where memory runs out, also inside the callback, the run ends there: `Finished`, with that
-    /// as a failure.
+    /// If memory runs out, in the callback too, the run ends there with `Finished` and a failure
+    /// that says so.
     Outcome run(Emit callback, ShouldEnd shouldEnd = nullptr);
 
     /// Removes the folders that killed runs left among this user's temporary files, see
-    /// `StatusFolder`. `run` begins with it; a front end calls it where nothing is there to run
-    /// for.
+    /// `StatusFolder`. `run` starts with it; a front end calls it if there is nothing to run for.
     static void sweepTemporaryFolder(const KelmarPaths& paths);
 
-    // Closing. What could not be done is logged, never a failure: verification finds what is left.
+    // Closing. What could not be closed is logged, never a failure: verification finds what is
+    // left.
 
     /// Quits the app: a polite request and 20 seconds, SIGTERM and 10, a forced quit and 5.
     void quitKelmar();
@@ -103,47 +103,47 @@ public:
     void stopServices();
     /// Ends the current user's processes that run from inside `folders`.
     void stopProcesses(const std::vector<std::string>& folders);
-    /// Starts again what `stopServices` stopped, as far as it is still installed.
+    /// Starts again the services that `stopServices` stopped, if they are still installed.
     void restartStoppedServices();
     static std::vector<pid_t> processes(const std::vector<std::string>& folders);
-    /// Whether all of `processes` have gone, now or within `seconds`. One of another user's still
-    /// is there.
+    /// Returns true once all of `processes` have ended, false if one is left after `seconds`.
+    /// Another user's process counts as running.
     static bool waitForExit(const std::vector<pid_t>& processes, double seconds);
 
     // Removing.
 
-    /// Deletes a file, link or folder with everything in it; records a failure when it is still
-    /// there then.
+    /// Deletes a file, a symlink, or a folder with everything in it; adds a failure if it still
+    /// exists afterwards.
     void remove(const std::string& path);
-    /// Makes the package installer forget an install record of the home volume.
+    /// Makes the package installer forget a receipt on the home volume.
     void forgetReceipt(const std::string& identifier);
     /// Deletes the settings and the keychain items that the scan found.
     void removeSettings();
-    /// Deletes a folder when nothing that matters is left in it.
+    /// Deletes a folder if it holds nothing but ignorable files.
     void removeIfEmpty(const std::string& path);
     /// Resets the privacy permissions that the system granted the app.
     void resetPermissions();
 
-    /// Scans again: what is still there, and why as far as it is known. Changes nothing, sends
-    /// nothing.
+    /// Scans again: what is left, and why, if known. Changes nothing and sends no event.
     [[nodiscard]] std::vector<Failure> verify() const;
 
     // The administrator step.
 
-    /// The script's arguments but for "--status"; absent when an administrator has nothing to do.
+    /// The script's arguments except "--status"; absent if there is nothing for an administrator to
+    /// do.
     [[nodiscard]] std::optional<std::vector<std::string>> administratorArguments() const;
     /// The sentence that the password prompt shows.
     [[nodiscard]] std::string administratorReason() const;
-    /// The chosen folders of the user's own data roots, which no administrator is needed for.
+    /// The chosen folders of the user's own data roots, which need no administrator.
     [[nodiscard]] std::vector<DataFolder> mySelectedData() const;
     /// Runs the script and follows its progress.
     AdministratorOutcome runAsAdministrator(const std::vector<std::string>& arguments);
 
 private:
     Outcome runStages();
-    /// One stage of a run; false when it was cancelled.
+    /// Performs one stage of a run; returns false if it was cancelled.
     bool perform(Stage stage);
-    /// Whether the run ends before the next step; once true, it stays so.
+    /// Returns true if the run ends before the next step; once true, it stays true.
     bool ends();
     void closeKelmar();
     void cleanAccount();
@@ -153,16 +153,16 @@ private:
 
     void log(std::string text) const { emit(Log{std::move(text)}); }
 
-    /// What can be known to stay before anybody gives a password for it.
+    /// Logs what no password can remove, before anybody is asked for one.
     void logWhatNoPasswordHelps() const;
     void handleStatusLine(std::string_view line);
 
-    /// Logs once where to allow the removal of an app, when that is what a failure may come from.
+    /// Logs once where to allow the removal of an app, if the failure may come from that.
     void adviseOnAppManagement(std::string_view path, std::string_view reason);
 
     ShouldEnd shouldEnd_;
     bool ended_ = false;
-    bool removing_ = false; ///< a removal has begun: there is no way back
+    bool removing_ = false; ///< a removal has begun: the run can no longer be undone
     bool hasAdvisedOnAppManagement_ = false;
 };
 

@@ -9,7 +9,7 @@ namespace kelmar {
 
 namespace {
 
-/// The paths that should be gone and are not. Data that was to be kept is no leftover.
+/// The paths that should be gone but exist. Data that was to be kept is no leftover.
 std::vector<std::string> leftovers(const Inventory& after,
                                    const std::set<std::string>& selectedData) {
     std::vector<std::string> paths;

@@ -6,7 +6,7 @@
 #include <variant>
 #include <vector>
 
-/// What the engine tells its caller: plain records, which `Uninstaller` has under its own name.
+/// What the engine tells its caller: plain records, which `Uninstaller` repeats under its own name.
 namespace kelmar::Uninstall {
 
 /// The parts of a run, in the order in which they run.
@@ -43,15 +43,14 @@ struct Log {
 
 using Event = std::variant<StageStarted, StageFinished, Doing, Log>;
 
-/// Something left over: an absolute path, or a label such as "Install record
-/// com.kelmar.pkg.app".
+/// Something left over: an absolute path, or a label such as "Install record com.kelmar.pkg.app".
 struct Failure {
     std::string path;
     std::string reason; ///< a short lower-case clause without a full stop: "it is still there"
     friend bool operator==(const Failure&, const Failure&) = default;
 };
 
-/// The run went through; what could not be removed.
+/// The run was completed; `failures` has what could not be removed.
 struct Finished {
     std::vector<Failure> failures;
     friend bool operator==(const Finished&, const Finished&) = default;
