@@ -6,15 +6,16 @@
 
 namespace kelmar {
 
-/// Why the administrator's script did not do its work. The caller puts either case into its own
-/// words.
+/// Why the administrator's script did not do its work. The caller words the message for either
+/// case.
 class AdministratorError : public std::runtime_error {
 public:
     enum class Kind {
-        /// It could not be run or ended in failure: `what` says why, in the system's or its words.
+        /// The script could not be started, or it failed. `what` has the reason, as the system or
+        /// the script worded it.
         failed,
-        /// The prompt was refused, dismissed, or could not be shown; nothing ran. `what` has what
-        /// the system said of it beyond that, line by line, and is empty for a plain refusal.
+        /// The prompt was refused, dismissed, or could not be shown; nothing ran. `what` has any
+        /// further message of the system, line by line, and is empty for a plain refusal.
         cancelled,
     };
 
@@ -34,7 +35,7 @@ private:
     Kind kind_;
 };
 
-/// Runs the administrator's script. The engine holds one without knowing which.
+/// Runs the administrator's script. The engine depends on this interface only.
 class AdministratorRunner {
 public:
     AdministratorRunner() = default;
@@ -42,11 +43,11 @@ public:
     AdministratorRunner& operator=(const AdministratorRunner&) = delete;
     virtual ~AdministratorRunner() = default;
 
-    /// Runs the file `script` with `arguments`, each passed as exactly one argument whatever
-    /// characters it holds, after asking for an administrator's password with the sentence `reason`
-    /// where that is needed. Returns when the script has ended with status 0; throws
-    /// AdministratorError otherwise. Blocks its thread, without a time-out; may be called from any
-    /// thread.
+    /// Runs the file `script` with `arguments`, after asking for an administrator's password with
+    /// the sentence `reason` where one is needed. Each argument arrives unchanged, whatever
+    /// characters it holds. Returns when the script has ended with status 0; throws
+    /// AdministratorError otherwise. Blocks the calling thread, without a timeout; may be called
+    /// from any thread.
     virtual void run(const std::string& script, const std::vector<std::string>& arguments,
                      const std::string& reason) = 0;
 };

@@ -8,10 +8,10 @@
 
 namespace kelmar {
 
-/// What it means that an AppleScript which asks for an administrator ended with this error number
-/// and message; absent where the error has none. A refused or dismissed prompt, or one that could
-/// not be shown, is `cancelled`; everything else is `failed`, a script that ended with a status of
-/// its own among it: its number is the status, its message what it wrote to standard error.
+/// Translates the error of an AppleScript that asks for an administrator. A prompt that was
+/// refused, dismissed or could not be shown is `cancelled`; everything else is `failed`. If the
+/// script itself exits with a nonzero status, `number` is that status and the message is what it
+/// wrote to standard error. Either argument is absent if the error has none.
 AdministratorError administratorError(std::optional<std::int64_t> number,
                                       const std::optional<std::string>& message);
 

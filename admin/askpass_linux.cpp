@@ -18,7 +18,7 @@ namespace kelmar::Askpass {
 
 namespace {
 
-/// Best known first.
+/// In order of preference.
 constexpr std::array<const char*, 6> usualPrograms{
     "/usr/bin/ssh-askpass",
     "/usr/bin/ksshaskpass",
@@ -31,7 +31,7 @@ constexpr std::array<const char*, 6> usualPrograms{
 constexpr const char* behind = "KELMAR_UNINSTALLER_ASKPASS"; ///< names the program that asks
 constexpr std::string_view askedLine = "kelmar-uninstaller: a password is asked for";
 
-/// How sudo's lines end, or what one is, when a password was wrong or none was given.
+/// Endings of the lines, or whole lines, that sudo prints when a password was wrong or missing.
 constexpr std::array<std::string_view, 5> refusals{
     "no password was provided",    "a password is required", "incorrect password attempt",
     "incorrect password attempts", "Sorry, try again.",

@@ -4,7 +4,7 @@
 
 namespace kelmar {
 
-/// Runs the script as the current user and asks for nothing: for test roots. Only ever throws
+/// Runs the script as the current user, without a prompt: for test roots. The only error is
 /// `failed`, with everything that the script printed.
 class CurrentUserRunner : public AdministratorRunner {
 public:

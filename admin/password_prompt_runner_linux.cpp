@@ -15,9 +15,9 @@ namespace {
 
 constexpr const char* sudo = "/usr/bin/sudo";
 
-/// The first line of the command that sudo runs, on both of its streams. Standard output is in
-/// nobody else's hands: what stands there was written by root. On standard error it parts what sudo
-/// said from what the script says.
+/// The first line that the command under sudo prints, to both of its streams. Only root's command
+/// writes to standard output, so the line there proves that it ran. On standard error it separates
+/// sudo's messages from the script's.
 constexpr const char* started = "kelmar-uninstaller: root's command has started";
 
 /// sudo(8): the prompt has escapes that begin with a percent sign.
@@ -29,14 +29,14 @@ std::string promptText(const std::string& reason) {
     return text;
 }
 
-/// The command line for env(1). The words of the one that is given to a shell are fixed; everything
-/// else is an argument.
+/// The command line for env(1). The text that the shell parses is fixed; everything else is an
+/// argument.
 std::vector<std::string> command(const std::string& askpass, const std::string& reason,
                                  const std::string& script,
                                  const std::vector<std::string>& arguments) {
     std::vector<std::string> all =
         askpass.empty() ? std::vector<std::string>{} : Askpass::variables(askpass);
-    // -k: a password that was given to somebody else minutes ago is not used, nor is this one kept.
+    // -k: neither use a password cached by an earlier sudo, nor cache this one.
     all.insert(all.end(),
                {sudo, "-k", "-A", "-p", promptText(reason), "--", "/bin/bash", "-p", "-c",
                 "echo \"$0\"; echo \"$0\" >&2; exec /bin/bash -p -- \"$@\"", started, script});
@@ -49,7 +49,7 @@ bool hasStarted(const std::string& output) {
     return std::find(lines.begin(), lines.end(), started) != lines.end();
 }
 
-/// What the script said, in its own words.
+/// The script's own error messages.
 std::string complaint(const Shell::SeparateResult& result) {
     const std::size_t at = result.error.rfind(started);
     const std::string words =

@@ -23,7 +23,7 @@ std::string answer(const std::optional<AdministratorError>& error) {
                : std::string(failedWord) + error->what();
 }
 
-/// What stands between the first two markers.
+/// The text between the first two markers.
 std::optional<std::string> between(const std::string& marker, const std::string& output) {
     const std::size_t first = output.find(marker);
     if (first == std::string::npos) {

@@ -4,8 +4,7 @@
 namespace kelmar::PromptProcess {
 
 std::optional<int> run(const std::vector<std::string>& options) {
-    // sudo(8) is the process that runs the script; what it starts to ask for a password is this
-    // one.
+    // sudo(8) itself runs the script. Only its askpass program is this executable.
     return Askpass::isMeant(options) ? std::optional(Askpass::ask(options)) : std::nullopt;
 }
 

@@ -24,7 +24,7 @@ namespace kelmar::PromptProcess {
 
 namespace {
 
-/// By whatever path: the two processes may have been started through different ones.
+/// Compares files, not paths: the two processes may have been started through different paths.
 bool isSameFile(const std::string& one, const std::string& other) {
     struct stat first {};
 
@@ -34,9 +34,10 @@ bool isSameFile(const std::string& one, const std::string& other) {
            first.st_dev == second.st_dev && first.st_ino == second.st_ino;
 }
 
-/// Anybody may start this program with any options, and a prompt in its name is believed. Only the
-/// program itself is answered, and only for the script that it ships with. A process can become the
-/// program after it has asked, so the request itself is checked as well: see `reasonForRequest`.
+/// Anybody may start this program with any options, and people believe a prompt in its name. So
+/// only the program itself may ask, and only for the script that it ships with. A process can turn
+/// into this program (exec) after it has asked, so the request is checked as well: see
+/// `reasonForRequest`.
 bool isTrusted(const Request& request, pid_t parent) {
     const std::optional<std::string> mine = executablePath(::getpid());
     const std::optional<std::string> asking = executablePath(parent);
@@ -45,21 +46,22 @@ bool isTrusted(const Request& request, pid_t parent) {
            isSameFile(*script, request.script);
 }
 
-/// What the request is for, in the prompt's words; absent for one that is refused.
+/// The sentence of the prompt for `request`; absent if the request is refused.
 std::optional<std::string> reasonFor(const Request& request, pid_t parent) {
     const Asker asker{standardised(homeFolder()), standardised(temporaryFolder())};
     return isTrusted(request, parent) ? reasonForRequest(request.arguments, asker) : std::nullopt;
 }
 
-/// Root's shell may inherit what is left here, and bash(1) runs the file that BASH_ENV names before
-/// the first line of any script. The one variable says whose request it is, as sudo(8) does.
+/// Root's shell may inherit this environment, and bash(1) runs the file that BASH_ENV names before
+/// the first line of any script. The one variable that stays names the asking user, as sudo(8)
+/// does.
 void leaveOnlyTheAskerInTheEnvironment() {
     clearEnvironment();
     ::setenv("SUDO_UID", std::to_string(::getuid()).c_str(), 1);
 }
 
-/// Ends this process when the one that asked has ended: nobody would hear the answer, and nothing
-/// is to be removed for nobody. kqueue(2): a process that is gone already is an error at once.
+/// Ends this process when its parent ends: nobody would read the answer any more, so nothing may be
+/// removed. kqueue(2) reports an error at once for a process that has already gone.
 void endWith(pid_t parent) {
     nameThisThread("parent");
 
@@ -94,7 +96,7 @@ std::optional<AdministratorError> ask(const Request& request, const std::string&
     }
     NSDictionary* error = nil;
     NSAppleEventDescriptor* const result = [script.get() executeAndReturnError:&error];
-    // The result decides, as everywhere in Foundation: the error means something only without one.
+    // Foundation's convention: test the result; the error is valid only if the result is nil.
     return result != nil ? std::nullopt : std::optional(errorIn(error));
 }
 
@@ -106,7 +108,7 @@ std::optional<int> run(const std::vector<std::string>& options) {
         return std::nullopt;
     }
     becomeBackgroundProcess();
-    // Read once: a parent that ends in between leaves its number to nobody that is trusted.
+    // Read once. If the parent ends in between, no trusted process takes over its number.
     const pid_t parent = ::getppid();
     @autoreleasepool {
         const std::optional<std::string> reason = reasonFor(*asked, parent);

@@ -4,7 +4,7 @@
 #include <string_view>
 #include <vector>
 
-/// Words for the command line inside the system's password prompt.
+/// Quoting for the command line inside the system's password prompt.
 namespace kelmar {
 
 /// `word` as the POSIX shell reads it back unchanged: in single quotes, each ' inside as '\''.

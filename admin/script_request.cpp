@@ -8,7 +8,7 @@ namespace kelmar {
 
 namespace {
 
-/// Takes a request apart from its beginning.
+/// Parses a request from its beginning.
 class Reader {
 public:
     explicit Reader(const std::vector<std::string>& arguments) : arguments_(arguments) {}
@@ -19,7 +19,7 @@ public:
         return found;
     }
 
-    /// The value of an option that was taken; empty when it is missing.
+    /// The value of the option just taken; empty if it is missing.
     std::string value() { return at_ < arguments_.size() ? arguments_[at_++] : std::string(); }
 
     [[nodiscard]] bool isAtEnd() const { return at_ == arguments_.size(); }

@@ -21,7 +21,7 @@ namespace {
 constexpr std::string_view folderName = "/kelmar-uninstaller-";
 constexpr std::string_view fileName = "/status";
 
-/// No run takes so long: what tells a folder in use where the file system has no locks.
+/// No run takes longer. On a file system without locks, age alone tells whether a folder is in use.
 constexpr std::time_t day = 86400; // seconds
 
 FileDescriptor openFolder(const std::string& path) {
@@ -78,14 +78,14 @@ StatusFolder::StatusFolder(const std::string& parent) {
     if (error_) {
         return;
     }
-    // mkdir(2) subtracts the umask, so an odd one is made up for. Nobody else could have been in
-    // between: the name can't be guessed, and no umask adds permissions.
+    // mkdir(2) subtracts the umask; chmod(2) restores the permissions. No race in between: the name
+    // can't be guessed, and no umask adds permissions.
     if (::mkdir(path_.c_str(), S_IRWXU) != 0 || ::chmod(path_.c_str(), S_IRWXU) != 0) {
         error_ = std::error_code(errno, std::generic_category());
         return;
     }
     lock_ = openFolder(path_);
-    static_cast<void>(lock(lock_)); // nobody else has had the time to
+    static_cast<void>(lock(lock_)); // cannot be contended yet: the folder is new
     const FileDescriptor status(::open(
         file().c_str(), O_WRONLY | O_CREAT | O_EXCL | O_NOFOLLOW | O_CLOEXEC, S_IRUSR | S_IWUSR));
     if (status.isOpen()) {

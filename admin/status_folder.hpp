@@ -8,9 +8,9 @@
 
 namespace kelmar {
 
-/// A fresh folder below `parent` for the status file of one run, both readable by this user alone
-/// whatever the umask is, and both gone again at its end. Until then the folder is locked
-/// (flock(2)), which tells it from one that a killed run left.
+/// A new folder below `parent` for the status file of one run. Only this user can read the folder
+/// and the file, whatever the umask is; the destructor removes both. Until then the folder is
+/// locked (flock(2)), which distinguishes it from one that a killed run left.
 class StatusFolder {
 public:
     explicit StatusFolder(const std::string& parent);
@@ -18,16 +18,16 @@ public:
     StatusFolder& operator=(const StatusFolder&) = delete;
     ~StatusFolder();
 
-    /// Removes from `parent` what killed runs left there: folders with a name that objects of this
-    /// class give, of this user, unlocked, and unchanged for a day. One that holds anything but a
-    /// status file stays.
+    /// Removes from `parent` the folders that killed runs left there: named as this class names
+    /// them, owned by this user, unlocked, and unchanged for a day. A folder that holds anything
+    /// but a status file stays.
     static void sweep(const std::string& parent);
 
-    /// Whether `path` is that of a status file which an object of this class makes below `parent`.
+    /// Returns true if `path` is a status file that this class could have made below `parent`.
     static bool isFileBelow(const std::string& parent, std::string_view path);
 
     /// Why the folder could not be made, if it could not. (A missing status file is no error:
-    /// nothing is then read from it.)
+    /// nothing is read from it then.)
     [[nodiscard]] const std::error_code& error() const { return error_; }
 
     [[nodiscard]] const std::string& path() const { return path_; }

@@ -6,7 +6,7 @@
 
 namespace kelmar {
 
-/// A line of the administrator's script about its progress, taken apart. A line is a keyword, one
+/// One parsed line of the administrator's script about its progress. A line is a keyword, one
 /// blank, and the rest verbatim; blanks before the keyword are skipped.
 struct StatusLine {
     enum class Keyword {
@@ -22,7 +22,7 @@ struct StatusLine {
     friend bool operator==(const StatusLine&, const StatusLine&) = default;
 };
 
-/// Absent for lines that carry nothing: empty ones, unknown keywords, DONE.
+/// Absent for lines without content: empty ones, unknown keywords, DONE.
 std::optional<StatusLine> parseStatusLine(std::string_view line);
 
 } // namespace kelmar

@@ -21,7 +21,7 @@ namespace {
 constexpr std::chrono::milliseconds period{200};
 
 constexpr std::size_t portion = 65536;
-// The script's lines hold a path and a reason. Whoever owns the file can write anything into it.
+// The script's lines hold a path and a reason, but the file's owner can write anything into it.
 constexpr std::size_t lineLimit = 1 << 20;
 constexpr std::uint64_t sizeLimit = 1 << 30;
 
@@ -82,7 +82,7 @@ void StatusTail::read() {
         offset_ += static_cast<std::uint64_t>(count);
         takeLines(bytes);
     }
-    // Each read by itself: a character that is cut between two of them becomes replacements on both
+    // Each read is decoded separately: a character split across two reads becomes U+FFFD on both
     // sides.
     pending_.append(decodeUtf8(bytes));
 }
