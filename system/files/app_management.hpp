@@ -4,9 +4,9 @@
 
 namespace kelmar {
 
-/// Where a person allows a program to change another maker's app, in the system's own words; empty
-/// where the system asks for no such permission. macOS refuses it from version 13 on, also to root,
-/// with EPERM.
+/// Where in the system's settings a person allows a program to change another maker's app, as the
+/// system words it; empty if the system needs no such permission. From version 13 on, macOS denies
+/// it with EPERM, also to root.
 std::string appManagementSettings();
 
 } // namespace kelmar

@@ -7,12 +7,12 @@ namespace kelmar {
 
 namespace {
 
-/// The groups of attributes that a record says it holds: common, volume, folder, file, fork.
+/// The groups of attributes that a record contains: common, volume, folder, file, fork.
 using AttributeSet = std::array<std::uint32_t, 5>;
 constexpr std::size_t commonGroup = 0;
 constexpr std::size_t folderGroup = 2;
 
-/// Reads values one after another; after one that does not fit, every other is absent too.
+/// Reads values one after another; after one that does not fit, all later ones are absent.
 class Reader {
 public:
     explicit Reader(std::string_view record) : record_(record) {}
@@ -71,7 +71,7 @@ std::optional<AttributeRecord> takeAttributeRecord(std::string_view& bytes) {
     const AttributeSet sets = reader.take<AttributeSet>().value();
     const std::uint32_t common = sets[commonGroup];
     AttributeRecord read;
-    read.error = reader.takeIf(common, AttributeBits::error); // before the others, whatever its bit
+    read.error = reader.takeIf(common, AttributeBits::error); // first, whatever its bit
     const std::size_t from = reader.position();
     const std::optional<Reference> reference =
         (common & AttributeBits::name) != 0 ? reader.take<Reference>() : std::nullopt;

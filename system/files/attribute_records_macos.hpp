@@ -5,10 +5,10 @@
 #include <optional>
 #include <string_view>
 
-/// The records in which getattrlistbulk(2) answers.
+/// The records that getattrlistbulk(2) returns.
 namespace kelmar {
 
-/// The bits of the attributes that are asked for, as <sys/attr.h> has them.
+/// The bits of the requested attributes, as in <sys/attr.h>.
 namespace AttributeBits {
 constexpr std::uint32_t name = 0x00000001;
 constexpr std::uint32_t objectType = 0x00000008;
@@ -22,7 +22,7 @@ constexpr std::uint32_t folderMountStatus = 0x00000004; ///< in the group for fo
 constexpr std::uint32_t folderObjectType = 2; ///< VDIR
 constexpr std::uint32_t isMountPoint = 1;     ///< DIR_MNTSTATUS_MNTPOINT
 
-/// One record; what the file system did not give is absent.
+/// One record; attributes that the file system did not return are absent.
 struct AttributeRecord {
     std::string_view name; ///< ends in a null character; inside the bytes that were read
     std::optional<std::uint32_t> error; ///< the errno value, where the entry could not be read
@@ -31,8 +31,8 @@ struct AttributeRecord {
     std::optional<std::uint32_t> mountStatus;
 };
 
-/// Reads the record at the beginning of `bytes` and takes it away from there. Absent when it is not
-/// whole or has no name: what follows can't be read either.
+/// Reads the record at the beginning of `bytes` and removes it from there. Absent if the record is
+/// incomplete or has no name; the rest can't be read then.
 std::optional<AttributeRecord> takeAttributeRecord(std::string_view& bytes);
 
 } // namespace kelmar

@@ -6,8 +6,8 @@
 
 namespace kelmar {
 
-/// Owns an open file descriptor, or none (-1), and closes it at its end. An error of close(2) is
-/// ignored: on the systems meant here the descriptor is gone either way.
+/// Owns an open file descriptor, or none (-1); the destructor closes it. Ignores errors of
+/// close(2): Linux and macOS release the descriptor in any case.
 class FileDescriptor {
 public:
     FileDescriptor() = default;
@@ -32,7 +32,7 @@ public:
 
     [[nodiscard]] int get() const { return value_; }
 
-    /// Gives the descriptor up to somebody else who closes it.
+    /// Gives up ownership: the caller must close the descriptor.
     [[nodiscard]] int release() { return std::exchange(value_, -1); }
 
     [[nodiscard]] bool isOpen() const { return value_ >= 0; }

@@ -54,7 +54,7 @@ std::optional<std::vector<std::string>> sortedNamesWithin(std::chrono::milliseco
             }
         }).detach();
     } catch (const std::system_error&) {
-        return sortedNames(path); // the system starts no thread
+        return sortedNames(path); // no thread can be started
     }
     return answer.wait_for(patience) == std::future_status::ready ? answer.get() : std::nullopt;
 }

@@ -6,15 +6,15 @@
 
 namespace kelmar {
 
-/// How a folder is read with getattrlistbulk(2), without the call itself.
+/// Reads a folder in batches, as getattrlistbulk(2) returns them; tests replace the call.
 struct FolderBatches {
-    std::function<int()> next;                ///< as the call: a count, 0 at the end, -1 and errno
-    std::function<FolderReading(int)> visit;  ///< the entries of a batch
-    std::function<FolderReading()> otherwise; ///< for a file system that does not know the call
+    std::function<int()> next;                ///< a count, 0 at the end, -1 and errno
+    std::function<FolderReading(int)> visit;  ///< visits the entries of a batch
+    std::function<FolderReading()> otherwise; ///< fallback for a file system without the call
 };
 
-/// A call that a signal interrupts is repeated. An error ahead of the first batch means that the
-/// file system does not know the call; after it, that the folder could not be read.
+/// Repeats a call that a signal interrupts. An error before the first batch means that the file
+/// system does not support the call; a later one, that the folder could not be read.
 FolderReading readInBatches(const FolderBatches& batches);
 
 } // namespace kelmar

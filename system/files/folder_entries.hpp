@@ -7,22 +7,22 @@
 
 namespace kelmar {
 
-/// One entry of a folder, as lstat(2) would describe it.
+/// One entry of a folder, with values as lstat(2) returns them.
 struct FolderEntry {
     std::string_view name; ///< ends in a null character; valid during the visit only
     uid_t owner;
-    bool isFolder; ///< a real folder, no link to one
+    bool isFolder; ///< a folder, not a symlink to one
 };
 
 enum class FolderReading {
     complete, ///< every entry was visited
-    stopped,  ///< the visitor answered false
+    stopped,  ///< the visitor returned false
     failed,   ///< the folder, or one of its entries, could not be read
 };
 
-/// Visits every entry of the open folder `descriptor` but "." and "..", in the system's own order,
-/// until `visit` answers false. An entry that vanishes before it was looked at is a failure. The
-/// descriptor stays open and must stand at the folder's beginning.
+/// Visits every entry of the open folder `descriptor` except "." and "..", in the system's own
+/// order, until `visit` returns false. An entry that vanishes before it was examined is a failure.
+/// The descriptor must be at the folder's beginning and stays open.
 FolderReading readFolder(int descriptor, const std::function<bool(const FolderEntry&)>& visit);
 
 } // namespace kelmar

@@ -14,8 +14,7 @@ namespace {
 
 constexpr std::size_t bufferSize = 32768;
 
-/// Owner and kind are all that is asked for: file systems that keep other facts elsewhere need not
-/// look.
+/// Requests owner and kind only, so that file systems need not fetch other attributes.
 bool look(int folder, const char* name, struct statx& status) {
     return ::statx(folder, name, AT_SYMLINK_NOFOLLOW | AT_NO_AUTOMOUNT, STATX_UID | STATX_TYPE,
                    &status) == 0;
@@ -35,7 +34,7 @@ FolderReading readFolder(int descriptor, const std::function<bool(const FolderEn
             return length == 0 ? FolderReading::complete : FolderReading::failed;
         }
         for (ssize_t at = 0; at < length;) {
-            // The kernel lays these records out one behind the other, each with its own length.
+            // The kernel packs these records one after another, each with its own length.
             const auto* const entry =
                 reinterpret_cast<const dirent64*>(&buffer[static_cast<std::size_t>(at)]);
             at += entry->d_reclen;

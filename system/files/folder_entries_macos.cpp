@@ -30,8 +30,8 @@ attrlist wanted() {
     return list;
 }
 
-/// What a record says of its entry, or lstat(2) where the record does not say it all. For a folder
-/// with a volume mounted on it the record describes the covered folder, lstat(2) the volume.
+/// Takes the entry's values from its record, or from lstat(2) if the record is incomplete. For a
+/// mount point the record describes the covered folder, lstat(2) the volume.
 bool describe(int folder, const AttributeRecord& record, FolderEntry& entry) {
     const bool covered = (record.mountStatus.value_or(0) & isMountPoint) != 0;
     if (record.error.value_or(0) != 0 || !record.objectType || !record.owner || covered) {

@@ -12,8 +12,8 @@ namespace kelmar {
 
 namespace {
 
-/// closedir(3) closes the descriptor too, and the caller's is to stay open. A duplicate shares its
-/// position, which is at the beginning.
+/// Duplicates the descriptor, since closedir(3) closes it and the caller's must stay open. The
+/// duplicate shares its position, which is at the beginning.
 OpenFolder openFolder(int descriptor) {
     FileDescriptor duplicate(::fcntl(descriptor, F_DUPFD_CLOEXEC, 0));
     OpenFolder folder(duplicate.isOpen() ? ::fdopendir(duplicate.get()) : nullptr);

@@ -4,13 +4,13 @@
 
 namespace kelmar {
 
-/// `readFolder` by readdir(3) and fstatat(2), which every file system answers: slower than what a
-/// system has of its own, and the same answers.
+/// `readFolder` through readdir(3) and fstatat(2), which every file system supports: slower than
+/// the system's own call, with the same results.
 FolderReading readFolderPortably(int descriptor,
                                  const std::function<bool(const FolderEntry&)>& visit);
 
-/// The entry `name` of the open folder `descriptor`, as fstatat(2) describes it; false when it
-/// can't be looked at.
+/// Reads the entry `name` of the open folder `descriptor` with fstatat(2); returns false if that
+/// fails.
 bool lookAtEntry(int descriptor, const char* name, FolderEntry& entry);
 
 } // namespace kelmar

@@ -7,7 +7,7 @@ namespace kelmar {
 
 const dirent* nextEntry(const OpenFolder& folder) {
     while (true) {
-        errno = 0; // readdir(3) tells its end and an error apart by errno alone
+        errno = 0; // only errno distinguishes readdir(3)'s end from an error
         const dirent* const entry = ::readdir(folder.get());
         if (entry == nullptr) {
             return nullptr;

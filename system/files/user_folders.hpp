@@ -4,9 +4,8 @@
 
 namespace kelmar {
 
-/// The current user's home folder, as the system's account database has it for the user that the
-/// process runs as; where the database has none, as the environment does; else "/". Not
-/// standardised.
+/// The home folder of the user that the process runs as: from the system's account database, else
+/// from the environment, else "/". Not standardised.
 std::string homeFolder();
 
 /// The current user's folder for temporary files as the system reports it. Not standardised.

@@ -5,7 +5,7 @@ namespace kelmar {
 
 std::string homeFolder() {
     @autoreleasepool {
-        // By name, as the account database has it: the process's own notion follows the
+        // Looked up by name in the account database: the process's own home follows the
         // environment.
         const std::string byName = plainText(NSHomeDirectoryForUser(NSUserName()));
         const std::string home = byName.empty() ? plainText(NSHomeDirectory()) : byName;

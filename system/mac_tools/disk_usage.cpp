@@ -8,7 +8,7 @@
 namespace kelmar::DiskUsage {
 
 std::optional<std::int64_t> kibibytes(const std::string& path, std::chrono::milliseconds within) {
-    // du exits with an error whenever it complained, also after a total that counts.
+    // du exits with an error after any complaint, even if its total is valid.
     const std::optional<Shell::Result> result =
         Shell::runWithin(within, "/usr/bin/du", {"-sk", path});
     return result ? kibibytesIn(result->output) : std::nullopt;

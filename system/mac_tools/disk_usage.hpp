@@ -6,13 +6,13 @@
 #include <string>
 #include <string_view>
 
-/// Space on disk, through du(1).
+/// Disk usage, through du(1).
 namespace kelmar::DiskUsage {
 
 /// Longer than du(1) takes for any folder on a disk that answers.
 constexpr std::chrono::hours patience{2};
 
-/// The kibibytes that `path` and everything beneath it take on disk; absent when du(1) printed no
+/// The kibibytes that `path` and everything beneath it take on disk. Absent if du(1) printed no
 /// total, or none `within` that time. Runs /usr/bin/du and blocks until it has ended, for minutes
 /// on a large folder. May be called from any thread.
 std::optional<std::int64_t> kibibytes(const std::string& path,

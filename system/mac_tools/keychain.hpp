@@ -7,12 +7,12 @@
 /// ask for its password. May be called from any thread.
 namespace kelmar::Keychain {
 
-/// Whether there is an item for `service` (`find-generic-password`: exit status 0). Asks for its
-/// presence only: the secret is never read.
+/// Returns true if there is an item for `service` (`find-generic-password`: exit status 0). Never
+/// reads the secret.
 bool hasItem(const std::string& service);
 
-/// Deletes one item for `service` (`delete-generic-password`), the first that matches. False when
-/// none was deleted: there is none, or the keychain refused.
+/// Deletes one item for `service` (`delete-generic-password`), the first that matches. Returns
+/// false if none was deleted: there is none, or the keychain refused.
 bool deleteItem(const std::string& service);
 
 } // namespace kelmar::Keychain

@@ -9,17 +9,17 @@
 /// runs /bin/launchctl once and blocks until it has ended. May be called from any thread.
 namespace kelmar::Launchctl {
 
-/// Whether the service `label` is loaded. launchctl(1), `print`: exit status 0 for a loaded
+/// Returns true if the service `label` is loaded. launchctl(1), `print`: exit status 0 for a loaded
 /// service.
 bool isLoaded(std::string_view label);
 
-/// The path of the loaded service's property list; absent when launchd names none. The manual page
-/// calls the text of `print` no interface: without the path the service can be stopped, not started
-/// again.
+/// The path of the loaded service's property list; absent if launchd names none. The manual page
+/// warns that the text of `print` is no interface. Without the path the service can be stopped, but
+/// not started again.
 std::optional<std::string> propertyList(std::string_view label);
 
-/// That path in `output`, printed by `launchctl print`: what follows "path = " on the first line
-/// that begins so, blanks aside. Absent when no line does.
+/// Finds that path in `output`, printed by `launchctl print`: the text after "path = " on the first
+/// line that begins so, ignoring leading blanks. Absent if no line does.
 std::optional<std::string> propertyListIn(std::string_view output);
 
 /// Why a service could not be stopped.
@@ -28,13 +28,13 @@ struct Complaint {
     std::int32_t status = 0; ///< its exit status; -1 when it could not be started
 };
 
-/// Removes the service from the session (`bootout`); absent when it is not loaded any more. Exit
+/// Removes the service from the session (`bootout`); absent if it is no longer loaded. Exit
 /// statuses 3 ("no such process") and 113 ("could not find service") mean that it was not loaded.
 /// launchctl may return before the service's process has ended.
 std::optional<Complaint> stop(std::string_view label);
 
-/// Loads the service that the file `propertyList` describes (`bootstrap`); absent when it is
-/// loaded, else launchctl's own words, trimmed.
+/// Loads the service that the file `propertyList` describes (`bootstrap`). Absent on success, else
+/// launchctl's own words, trimmed.
 std::optional<std::string> start(const std::string& propertyList);
 
 } // namespace kelmar::Launchctl

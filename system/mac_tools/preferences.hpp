@@ -5,8 +5,8 @@
 /// The current user's preferences, through defaults(1).
 namespace kelmar::Preferences {
 
-/// Deletes the preferences of `domain`, and makes cfprefsd(8) forget them: it would otherwise write
-/// the file anew. Nothing happens where there are none. Runs /usr/bin/defaults once and blocks
+/// Deletes the preferences of `domain` and makes cfprefsd(8) forget them, which would otherwise
+/// write the file again. Does nothing if there are none. Runs /usr/bin/defaults once and blocks
 /// until it has ended. May be called from any thread.
 void deleteDomain(std::string_view domain);
 

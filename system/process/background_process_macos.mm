@@ -4,9 +4,9 @@
 
 namespace kelmar {
 
-// The executable is the application's, and so is the Info.plist that it would be introduced by.
-// This changes the copy in memory, which is what the frameworks hand over. An activation policy
-// that is set later comes after the icon.
+// The executable is the application's, so the frameworks would register this process with the
+// application's Info.plist. This changes the copy in memory, which is what they read. An activation
+// policy set later would take effect only after the icon has appeared.
 void becomeBackgroundProcess() {
     @autoreleasepool {
         NSDictionary* const information = [[NSBundle mainBundle] infoDictionary];

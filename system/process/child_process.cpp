@@ -15,12 +15,11 @@ namespace kelmar {
 
 namespace {
 
-/// What the child finds open, and how it starts. Each step is skipped once one has failed.
+/// The child's open descriptors and its start. Once a step has failed, the later ones are skipped.
 class SpawnPlan {
 public:
-    /// The order matters where this process itself was started with descriptors closed: an end that
-    /// is written to is never 0, since a read end has a lower number, and `errors` is none of the
-    /// first three.
+    /// The order matters if this process itself was started with descriptors closed. A write end is
+    /// never 0, since its read end has a lower number, and `errors` is none of the first three.
     SpawnPlan(int output, int errors) {
         take(::posix_spawn_file_actions_init(&actions_));
         take(::posix_spawnattr_init(&attributes_));
@@ -35,8 +34,8 @@ public:
         sigset_t signals;
         sigemptyset(&signals);
         take(::posix_spawnattr_setsigmask(&attributes_, &signals));
-        sigaddset(&signals, SIGPIPE); // ignored by this process, see `prepareProcess`
-        sigaddset(&signals, SIGCHLD); // a shell that finds it ignored can't wait for its children
+        sigaddset(&signals, SIGPIPE); // this process ignores it, see `prepareProcess`
+        sigaddset(&signals, SIGCHLD); // a shell can't wait for children if it is ignored
         take(::posix_spawnattr_setsigdefault(&attributes_, &signals));
         take(::posix_spawnattr_setflags(&attributes_, flags));
     }
@@ -66,7 +65,7 @@ private:
 
 std::vector<char*> argumentVector(const std::string& executable,
                                   const std::vector<std::string>& arguments) {
-    // posix_spawn(3) takes pointers to char for historical reasons and does not write through them.
+    // posix_spawn(3) takes pointers to non-const char for historical reasons, but does not write.
     const auto pointer = [](const std::string& text) { return const_cast<char*>(text.c_str()); };
     std::vector<char*> vector;
     vector.reserve(arguments.size() + 2);
@@ -98,7 +97,7 @@ StartedChild startChild(const std::string& executable, const std::vector<std::st
         return child;
     }
     const std::vector<char*> vector = argumentVector(executable, arguments);
-    // Both systems' posix_spawn returns the errno of the exec: a bad program never runs at all.
+    // On both systems posix_spawn returns the errno of exec: a bad program never starts.
     child.error = ::posix_spawn(&child.process, executable.c_str(), plan.actions(),
                                 plan.attributes(), vector.data(), environmentForChildren());
     if (child.error == 0) {
@@ -114,7 +113,7 @@ int waitForChild(pid_t process) {
     int status = 0;
     while (::waitpid(process, &status, 0) == -1) {
         if (errno != EINTR) {
-            return unknown; // somebody else has waited for it
+            return unknown; // somebody else has already waited for it
         }
     }
     return WIFSIGNALED(status) ? signalBase + WTERMSIG(status) : WEXITSTATUS(status);

@@ -4,9 +4,9 @@
 
 namespace kelmar {
 
-/// Ends the program because a promise between two of its parts was broken: a programming error,
-/// never something that a person or a machine did. Writes one line to standard error, "Kelmar
-/// Uninstaller: broken contract: " and `what`, and aborts. May be called from any thread.
+/// Aborts the program because one of its parts broke a promise to another: a programming error,
+/// never an error of a person or the machine. First writes one line to standard error, "Kelmar
+/// Uninstaller: broken contract: " and `what`. May be called from any thread.
 [[noreturn]] void brokenContract(std::string_view what);
 
 } // namespace kelmar

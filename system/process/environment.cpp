@@ -10,7 +10,7 @@ namespace kelmar {
 
 void clearEnvironment() {
     char** const variables = environmentForChildren();
-    // execve(2) takes entries that name nothing and can't be unset by name: they are cut off.
+    // execve(2) accepts entries without a name, which can't be unset by name: they are cut off.
     while (variables != nullptr && *variables != nullptr) {
         const std::string_view first = *variables;
         const std::string name(first.substr(0, first.find('=')));

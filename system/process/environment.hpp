@@ -2,8 +2,8 @@
 
 namespace kelmar {
 
-/// Takes every variable out of this process's environment. No other thread may use it meanwhile
-/// (unsetenv(3)).
+/// Removes every variable from this process's environment. No other thread may access it at the
+/// same time (unsetenv(3)).
 void clearEnvironment();
 
 } // namespace kelmar

@@ -8,21 +8,21 @@
 
 namespace kelmar {
 
-/// A process that is kept apart from any other that gets its number later: numbers are given out
-/// again once a process has ended. Copies share what is held.
+/// Identifies one process even after its number has been reused for another. Copies share what
+/// identifies it.
 class HeldProcess {
 public:
-    /// Holds the process that has this number now; look at what it is afterwards, not before.
+    /// Identifies the process that has this number now. Check afterwards, not before, what it is.
     explicit HeldProcess(pid_t process);
 
     [[nodiscard]] pid_t number() const { return number_; }
 
-    /// Sends it a signal (kill(2)). False when it has ended, or when the system refuses.
+    /// Sends it a signal (kill(2)). Returns false if it has ended, or if the system refuses.
     [[nodiscard]] bool signal(int signal) const;
 
 private:
     pid_t number_;
-    /// What the system knows it by besides its number; null when it was gone already.
+    /// what identifies it besides its number; null if it had already gone
     std::shared_ptr<const void> identity_;
 };
 

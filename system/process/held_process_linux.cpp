@@ -11,7 +11,7 @@ namespace kelmar {
 
 namespace {
 
-/// pidfd_open(2), which the C library of Debian 12 has no function for; -1 on a kernel before 5.3.
+/// pidfd_open(2), for which the C library of Debian 12 has no function; -1 on a kernel before 5.3.
 FileDescriptor openProcess(pid_t process) {
     return FileDescriptor(static_cast<int>(::syscall(SYS_pidfd_open, process, 0)));
 }

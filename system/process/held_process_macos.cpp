@@ -9,8 +9,8 @@ namespace kelmar {
 
 namespace {
 
-/// When a process started: with its number that is one process. There is nothing here that holds
-/// one.
+/// When a process started; together with its number this identifies one process. macOS has no
+/// handle that would hold one.
 struct Start {
     std::uint64_t seconds = 0;
     std::uint64_t microseconds = 0;

@@ -9,7 +9,7 @@
 namespace kelmar {
 
 std::vector<pid_t> processIdentifiers() {
-    constexpr int slack = 64; // for processes that start between the two calls
+    constexpr int slack = 64; // room for processes that start between the two calls
     const int count = ::proc_listallpids(nullptr, 0);
     if (count < 1) {
         return {};
@@ -36,7 +36,7 @@ std::optional<uid_t> processOwner(pid_t process) {
     proc_bsdshortinfo info{};
     constexpr int size = sizeof info;
     static_assert(size == 64);
-    // Anything but the full record is an answer about nothing: the process has gone, or is hidden.
+    // A shorter result is no answer: the process has gone, or is hidden.
     if (::proc_pidinfo(process, PROC_PIDT_SHORTBSDINFO, 0, &info, size) != size) {
         return std::nullopt;
     }

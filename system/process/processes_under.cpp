@@ -33,7 +33,7 @@ class Inside {
 public:
     explicit Inside(const std::vector<std::string>& folders) : prefixes_(prefixes(folders)) {}
 
-    /// Whether `process` is another one than this, and runs from inside the folders.
+    /// Returns true if `process` is not this one and runs from inside the folders.
     [[nodiscard]] bool has(pid_t process) const {
         const std::optional<std::string> path =
             process < 1 || process == ::getpid() ? std::nullopt : executablePath(process);

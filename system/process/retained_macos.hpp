@@ -7,20 +7,21 @@
 namespace kelmar {
 
 /// Owns one reference to an Objective-C object, or none (nil). The sources are compiled without
-/// automatic reference counting, so what outlives the pool around a call is held in one of these.
+/// automatic reference counting, so an object that must outlive the current autorelease pool needs
+/// an owner.
 template <typename Object>
 class Retained {
 public:
     Retained() = default;
 
-    /// Takes over the reference that `alloc`, `new` or `copy` gave the caller.
+    /// Takes over the reference that the caller got from `alloc`, `new` or `copy`.
     static Retained adopt(Object* object) {
         Retained retained;
         retained.object_ = object;
         return retained;
     }
 
-    /// Takes a reference of its own.
+    /// Takes an additional reference.
     static Retained retain(Object* object) { return adopt([object retain]); }
 
     Retained(const Retained& other) : object_([other.object_ retain]) {}

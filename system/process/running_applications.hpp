@@ -8,8 +8,8 @@
 
 namespace kelmar {
 
-/// How an application is told from others. A system that keeps a list of running applications looks
-/// them up by bundle identifier; one that doesn't goes by where their executables lie.
+/// How to recognise an application. A system with a list of running applications looks it up by
+/// bundle identifier; any other goes by where executables lie.
 struct ApplicationIdentity {
     std::string bundleIdentifier;
     std::vector<std::string> bundles; ///< paths where the application's bundle may be
@@ -18,18 +18,18 @@ struct ApplicationIdentity {
 /// An application running now.
 struct RunningApplication {
     HeldProcess process;
-    std::shared_ptr<void> handle; ///< what the system knows it by, where a process is not enough
+    std::shared_ptr<void> handle; ///< the system's handle, if a process identifier is not enough
 
-    /// Asks it to quit, the way its own menu would. Whether the system took the request: the
+    /// Asks it to quit, as its own menu would. Returns true if the system accepted the request: the
     /// application may still ask its user, take its time, or not quit at all.
     [[nodiscard]] bool terminate() const;
 
-    /// Ends it without asking. Whether the system took the request.
+    /// Ends it without asking. Returns true if the system accepted the request.
     [[nodiscard]] bool forceTerminate() const;
 };
 
-/// The current user's applications running now that have this identity; none when there are none or
-/// when the system does not say.
+/// The current user's running applications with this identity; empty if there are none or the
+/// system does not say.
 std::vector<RunningApplication> runningApplications(const ApplicationIdentity& identity);
 
 } // namespace kelmar

@@ -6,8 +6,7 @@
 namespace kelmar {
 
 bool RunningApplication::terminate() const {
-    // The user's own way to end a program, which it can catch to put its things in order; SIGTERM,
-    // the system's, is the next step and not this one.
+    // Ctrl-C's signal, which a program can catch to clean up. SIGTERM is the caller's next step.
     return process.signal(SIGINT);
 }
 

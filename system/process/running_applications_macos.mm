@@ -7,8 +7,8 @@ namespace kelmar {
 
 namespace {
 
-/// The system's own record, which knows the application even after its process identifier has been
-/// given to another process.
+/// The system's own object, which still identifies the application after its process identifier has
+/// been reused.
 std::shared_ptr<void> handleOf(NSRunningApplication* application) {
     return {[application retain],
             [](void* object) { [static_cast<NSRunningApplication*>(object) release]; }};

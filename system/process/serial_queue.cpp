@@ -11,7 +11,7 @@ SerialQueue::SerialQueue(std::string label) : label_(std::move(label)) {
     try {
         thread_ = std::thread([this] { work(); });
     } catch (const std::system_error&) {
-        // See the header: whoever uses the queue gets its jobs done, only later.
+        // See the header: without the thread, `sync` runs jobs on the caller's.
     }
 }
 

@@ -24,14 +24,14 @@ std::string causeOf(int error) {
     return std::generic_category().message(error);
 }
 
-/// Reads both streams as they come: a child that fills the pipe of the one while the other is
-/// waited for would never end.
+/// Reads both streams as data arrives: a child that fills one pipe while this process waits for the
+/// other would never end.
 void drainBoth(StartedChild& child, std::string& output, std::string& error) {
     constexpr std::size_t portion = 65536;
     std::array<FileDescriptor*, 2> ends{&child.output, &child.errors};
     std::array<std::string*, 2> texts{&output, &error};
     while (child.output.isOpen() || child.errors.isOpen()) {
-        // poll(2) passes over a negative descriptor, which a closed one has.
+        // poll(2) ignores a negative descriptor, which a closed one has.
         std::array<pollfd, 2> states{
             {{child.output.get(), POLLIN, 0}, {child.errors.get(), POLLIN, 0}}};
         if (::poll(states.data(), states.size(), -1) < 0) {
@@ -49,7 +49,7 @@ void drainBoth(StartedChild& child, std::string& output, std::string& error) {
     }
 }
 
-/// Whether everything was read before `deadline`.
+/// Returns true if everything was read before `deadline`.
 bool drainUntil(Clock::time_point deadline, const FileDescriptor& output, std::string& bytes) {
     constexpr std::size_t portion = 65536;
     while (Clock::now() < deadline) {
@@ -68,7 +68,7 @@ bool drainUntil(Clock::time_point deadline, const FileDescriptor& output, std::s
     return false;
 }
 
-/// Ends `process` and lets go of its number, if it does end.
+/// Kills `process`, and reaps it if it ends.
 void abandon(pid_t process) {
     constexpr std::chrono::milliseconds pause{10};
     constexpr int looks = 100;
@@ -86,7 +86,7 @@ Result run(const std::string& executable, const std::vector<std::string>& argume
     if (child.error != 0) {
         return {-1, causeOf(child.error)};
     }
-    // Reading comes before waiting: a child that fills the pipe would otherwise never end.
+    // Read before waiting: a child that fills the pipe would otherwise never end.
     std::string bytes;
     appendToEnd(child.output.get(), bytes, limit);
     dropToEnd(child.output.get());

@@ -4,10 +4,10 @@
 
 #include <spawn.h>
 
-/// The parts of starting a child in which systems differ.
+/// The platform-specific parts of starting a child.
 namespace kelmar {
 
-/// A pipe whose ends no child inherits, or the errno value of what failed.
+/// A pipe whose ends no child inherits, or the errno value of the failed call.
 struct PrivatePipe {
     FileDescriptor reading;
     FileDescriptor writing;
@@ -16,8 +16,8 @@ struct PrivatePipe {
 
 PrivatePipe openPrivatePipe();
 
-/// Adds to `actions` and `flags` what keeps every descriptor from the child that no earlier action
-/// gave it, whoever opened it and however. 0, or the errno value of what failed.
+/// Adds to `actions` and `flags` what closes, in the child, every descriptor that no earlier action
+/// created. Returns 0, or the errno value of the failed call.
 int inheritNothingElse(posix_spawn_file_actions_t& actions, short& flags);
 
 /// The environment of this process, as execve(2) takes it.

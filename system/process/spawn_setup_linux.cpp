@@ -16,7 +16,7 @@ PrivatePipe openPrivatePipe() {
 }
 
 int inheritNothingElse(posix_spawn_file_actions_t& actions, short& /*flags*/) {
-    // What this process inherited itself, from a shell's "3>file" say, goes no further.
+    // Descriptors that this process inherited, say from a shell's "3>file", are not passed on.
     return ::posix_spawn_file_actions_addclosefrom_np(&actions, STDERR_FILENO + 1);
 }
 

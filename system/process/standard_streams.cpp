@@ -19,7 +19,8 @@ bool writeLine(int descriptor, std::string_view line) {
         if (written >= 0) {
             rest.remove_prefix(static_cast<std::size_t>(written));
         } else if (errno == EAGAIN) {
-            // Somebody else made the shared open file non-blocking: wait as a blocking write would.
+            // Another process made the shared open file non-blocking: wait as a blocking write
+            // would.
             pollfd stream{descriptor, POLLOUT, 0};
             ::poll(&stream, 1, -1);
         } else if (errno != EINTR) {

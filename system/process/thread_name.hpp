@@ -4,8 +4,8 @@
 
 namespace kelmar {
 
-/// Names the calling thread for debuggers and process listings, as far as the system has room for
-/// the name.
+/// Names the calling thread for debuggers and process listings; cuts the name to the system's
+/// limit.
 void nameThisThread(const std::string& name);
 
 } // namespace kelmar

@@ -13,10 +13,10 @@ namespace {
 constexpr std::size_t headerSize = 8;
 constexpr std::size_t trailerSize = 32;
 constexpr std::size_t depthLimit = 64;
-constexpr std::uint64_t costLimit = 64'000'000; ///< bytes of the tree when written out
-constexpr std::uint64_t nodeCost = 128;         ///< what one node takes beside its content
+constexpr std::uint64_t costLimit = 64'000'000; ///< bytes of the expanded tree
+constexpr std::uint64_t nodeCost = 128;         ///< bytes of a node besides its content
 
-/// What an object takes when it is written out in full.
+/// What an object takes when it is expanded.
 struct Extent {
     std::uint64_t cost = 0;
     std::size_t height = 0;

@@ -38,7 +38,7 @@ public:
         return take('{') && dictionary(0) && isAtEnd() ? found_ : std::nullopt;
     }
 
-    /// Whether all of the text is one value of the form, whatever it holds.
+    /// Returns true if the whole text is one value, of any type.
     bool isSound() { return value(0, false) && isAtEnd(); }
 
 private:
@@ -71,7 +71,7 @@ private:
         }
     }
 
-    /// What follows "{", up to and with "}".
+    /// Parses what follows "{", up to and including "}".
     bool dictionary(int depth) {
         while (true) {
             skipBlank();
@@ -90,7 +90,7 @@ private:
         }
     }
 
-    /// What follows "(", up to and with ")". A comma may stand after the last element.
+    /// Parses what follows "(", up to and including ")". A trailing comma is allowed.
     bool array(int depth) {
         while (true) {
             skipBlank();
@@ -107,7 +107,8 @@ private:
         }
     }
 
-    /// What follows "<", up to and with ">": pairs of hexadecimal digits, blanks anywhere.
+    /// Parses what follows "<", up to and including ">": pairs of hexadecimal digits, blanks
+    /// anywhere.
     bool data() {
         std::size_t digits = 0;
         while (true) {
@@ -177,15 +178,14 @@ private:
         return std::nullopt;
     }
 
-    /// What follows a backslash inside quotes.
+    /// Parses what follows a backslash inside quotes.
     bool escape(std::string& text) {
         if (rest_.empty()) {
             return false;
         }
         const char character = rest_.front();
         if (isDigit(character, 8)) {
-            // Above 127 an octal escape means a character of an encoding that no tool writes any
-            // more.
+            // Above 127 an octal escape is a character of an encoding that no tool writes any more.
             const std::optional<char32_t> code = digits(1, 3, 8);
             return code && *code < 0x80 && (appendUtf8(text, *code), true);
         }

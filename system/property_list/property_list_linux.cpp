@@ -32,7 +32,7 @@ std::optional<std::string> stringInDictionary(const Node& root, std::string_view
     if (value == nullptr || ::plist_get_node_type(value) != PLIST_STRING) {
         return std::nullopt;
     }
-    // Not plist_get_string_val: it ends the program over a text with a null character in it.
+    // Not plist_get_string_val: it aborts on a text with a null character in it.
     std::uint64_t length = 0;
     const char* const text = ::plist_get_string_ptr(value, &length);
     const std::string_view found(text == nullptr ? "" : text, text == nullptr ? 0 : length);
@@ -49,8 +49,8 @@ std::optional<std::string> stringInBinary(std::string_view bytes, std::string_vi
     return stringInDictionary(Node(root), key);
 }
 
-/// The encoding that an XML declaration names, in the characters that all of them share; empty
-/// without one.
+/// The encoding that an XML declaration names, read as the ASCII that all encodings here share;
+/// empty without one.
 std::string declaredEncoding(std::string_view text) {
     constexpr std::string_view name = "encoding=";
     const std::string_view declaration =
@@ -69,18 +69,18 @@ struct CloseConverter {
     void operator()(iconv_t converter) const { ::iconv_close(converter); }
 };
 
-/// `bytes` in UTF-8 as iconv(3) reads them in `encoding`; absent when it doesn't know that or when
-/// they are not such.
+/// `bytes` converted from `encoding` to UTF-8 by iconv(3); absent if the encoding is unknown or the
+/// bytes are invalid in it.
 std::optional<std::string> utf8From(const std::string& encoding, std::string_view bytes) {
     const iconv_t opened = ::iconv_open("UTF-8", encoding.c_str());
-    // iconv_open(3) answers with a pointer that is no pointer.
+    // iconv_open(3) reports an error as -1 cast to a pointer.
     if (opened == reinterpret_cast<iconv_t>(std::intptr_t{-1})) {
         return std::nullopt;
     }
     const std::unique_ptr<void, CloseConverter> converter(opened);
-    constexpr std::size_t longest = 4; // bytes of a character in UTF-8
+    constexpr std::size_t longest = 4; // the longest UTF-8 sequence, in bytes
     std::string text(bytes.size() * longest, '\0');
-    char* from = const_cast<char*>(bytes.data()); // read only, whatever the type says
+    char* from = const_cast<char*>(bytes.data()); // iconv(3) only reads it
     std::size_t left = bytes.size();
     char* to = text.data();
     std::size_t room = text.size();

@@ -10,8 +10,8 @@ namespace kelmar {
 
 namespace {
 
-/// The system's reader goes down a tree by recursion, and threads of a queue have half a megabyte
-/// of stack. Null characters stand beside those of tags in UTF-16 and UTF-32, and nowhere else.
+/// The system's reader is recursive, and threads of a dispatch queue have half a megabyte of stack.
+/// Null characters are removed first: UTF-16 and UTF-32 have them between the characters of tags.
 bool isModest(std::string_view bytes) {
     if (bytes.starts_with("bplist")) {
         return isModestBinaryPropertyList(bytes);

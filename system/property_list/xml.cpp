@@ -11,7 +11,7 @@ namespace {
 constexpr std::size_t containerLimit = 10'000;
 constexpr std::size_t nestingLimit = 128;
 
-/// What may hold text that looks like a tag and is none.
+/// A passage that may hold text which looks like a tag but is none.
 struct Passage {
     std::string_view opening;
     std::string_view closing;
@@ -21,7 +21,7 @@ constexpr std::array<Passage, 2> passages{{{"<!--", "-->"}, {"<![CDATA[", "]]>"}
 constexpr std::array<std::string_view, 2> openings{"<array", "<dict"};
 constexpr std::array<std::string_view, 2> closings{"</array", "</dict"};
 
-/// The end of the passage that `text` begins with, 0 when it begins with none.
+/// The length of the passage at the start of `text`; 0 if there is none.
 std::size_t passageLength(std::string_view text) {
     for (const Passage& passage : passages) {
         if (text.starts_with(passage.opening)) {
@@ -32,8 +32,8 @@ std::size_t passageLength(std::string_view text) {
     return 0;
 }
 
-/// Whether the tag that `text` begins with, which is `word` long without its ">", closes itself:
-/// "<dict/>". One with attributes may hold these characters in a quoted value and counts as open.
+/// Returns true if the tag at the start of `text`, which is `word` long without its ">", is empty:
+/// "<dict/>". A tag with attributes may hold these characters in a quoted value and counts as open.
 bool isEmptyElement(std::string_view text, std::size_t word) {
     text.remove_prefix(word);
     text.remove_prefix(std::min(text.find_first_not_of(" \t\r\n"), text.size()));

@@ -10,7 +10,7 @@ namespace {
 struct Unit {
     std::string_view name;
     std::uint64_t bytes;
-    std::uint64_t parts; ///< how many steps one unit is shown in: 1, 10 or 100
+    std::uint64_t parts; ///< steps per unit: 1, 10 or 100
 };
 
 constexpr std::uint64_t kilo = 1000;
@@ -57,8 +57,7 @@ std::string magnitudeText(std::uint64_t magnitude) {
 } // namespace
 
 std::string byteCountText(std::int64_t bytes) {
-    // Negating the smallest value has no room in the signed type; in the unsigned one it comes out
-    // right.
+    // Negate as unsigned: the smallest signed value has no positive counterpart.
     const auto bits = static_cast<std::uint64_t>(bytes);
     return bytes < 0 ? "-" + magnitudeText(0 - bits) : magnitudeText(bits);
 }

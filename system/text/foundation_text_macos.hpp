@@ -7,12 +7,11 @@
 
 namespace kelmar {
 
-/// `text` as Foundation's, each ill-formed sequence of its UTF-8 replaced by U+FFFD. Never nil: a
-/// nil where a text is expected ends the program or makes a label vanish. Lives as long as the pool
-/// around the call.
+/// Converts `text` to an NSString, replacing each ill-formed UTF-8 sequence by U+FFFD. Never nil:
+/// where a framework expects a text, nil ends the program or makes a label vanish. Autoreleased.
 NSString* foundationText(std::string_view text);
 
-/// `text` in UTF-8, each unpaired surrogate replaced; empty for nil.
+/// Converts `text` to UTF-8, replacing each unpaired surrogate; empty for nil.
 std::string plainText(NSString* text);
 
 } // namespace kelmar

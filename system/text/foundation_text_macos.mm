@@ -12,7 +12,7 @@ NSString* foundationText(std::string_view text) {
 }
 
 std::string plainText(NSString* text) {
-    // Not UTF8String: it is NULL for an unpaired surrogate and stops at a null character.
+    // Not UTF8String: it returns NULL for an unpaired surrogate and stops at a null character.
     NSData* const bytes = [text dataUsingEncoding:NSUTF8StringEncoding allowLossyConversion:YES];
     if (bytes == nil || [bytes length] == 0) {
         return "";

@@ -16,8 +16,8 @@ struct Range {
     char32_t last;
 };
 
-/// Besides the control characters that have pictures: the Unicode Standard's C1 controls (chapter
-/// 23.1) and what its bidirectional algorithm (UAX #9) or a line breaker obeys.
+/// Besides the control characters, which have pictures: the C1 controls (Unicode Standard, chapter
+/// 23.1), and characters that control bidirectional order (UAX #9) or line breaks.
 constexpr std::array<Range, 6> obeyed{{
     {0x80, 0x9F},     // C1: one of them begins a terminal's escape sequence
     {0x61C, 0x61C},   // Arabic letter mark
@@ -43,7 +43,7 @@ char32_t harmless(char32_t character) {
     return isObeyed ? replacement : character;
 }
 
-/// The character at the beginning of `text`, which is well-formed, is taken away from there.
+/// Removes the first character from `text`, which is well-formed, and returns it.
 char32_t takeCharacter(std::string_view& text) {
     const auto first = static_cast<unsigned char>(text.front());
     const std::size_t length = first < 0x80 ? 1 : first < 0xE0 ? 2 : first < 0xF0 ? 3 : 4;

@@ -5,10 +5,10 @@
 
 namespace kelmar {
 
-/// `text`, which may hold the names of files, so that it stays in its line, reads in its own
-/// direction, and means nothing to a terminal: control characters as their pictures (U+2400 and
-/// following; those of C1, which have none, as U+FFFD), and separators of lines, direction marks
-/// and ill-formed sequences of UTF-8 as U+FFFD. The result is well-formed.
+/// Makes `text`, which may hold file names, safe to show: it stays on its line, reads in its own
+/// direction, and holds no terminal control. Control characters become their pictures (U+2400 and
+/// following); C1 controls, which have none, line separators, direction marks and ill-formed UTF-8
+/// become U+FFFD. The result is well-formed.
 std::string harmlessText(std::string_view text);
 
 } // namespace kelmar

@@ -5,8 +5,8 @@
 
 namespace kelmar {
 
-/// `words` as a sentence lists them, in the way of the person's language where the system knows it,
-/// else in English: "a", "a and b", "a, b, and c". Empty without words.
+/// Formats `words` as a list in a sentence, in the person's language if the system knows how, else
+/// in English: "a", "a and b", "a, b, and c". Empty without words.
 std::string listed(const std::vector<std::string>& words);
 
 } // namespace kelmar

@@ -5,9 +5,9 @@
 
 namespace kelmar {
 
-/// The standard form of the absolute path `path`, by its text alone: without repeated and trailing
-/// slashes, "." and "..", which takes the component before it along (above the root it stays
-/// there). No link is followed and nothing is looked up. "/" stays "/".
+/// Normalises the absolute path `path` without looking at the file system. Removes repeated and
+/// trailing slashes, "." components, and ".." together with the component before it, if there is
+/// one. Follows no symlink. "/" stays "/".
 std::string standardised(std::string_view path);
 
 } // namespace kelmar

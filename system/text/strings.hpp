@@ -6,11 +6,10 @@
 
 namespace kelmar {
 
-/// `words` with `separator` between each two of them.
+/// `words` with `separator` between them.
 std::string joined(const std::vector<std::string>& words, std::string_view separator);
 
-/// `text` without the characters of `blank` at both of its ends: blanks and line ends, if none are
-/// named.
+/// `text` without leading and trailing characters of `blank`; by default blanks and line ends.
 std::string trimmed(std::string_view text, std::string_view blank = " \t\r\n\v\f");
 
 /// The lines of `text`, without their line feeds and without the empty ones.

@@ -9,7 +9,7 @@ namespace {
 constexpr std::string_view replacement = "\xEF\xBF\xBD";
 
 struct Sequence {
-    std::size_t length; ///< bytes of the sequence, or of its maximal subpart when it is ill-formed
+    std::size_t length; ///< bytes in the sequence, or in its maximal subpart if it is ill-formed
     bool wellFormed;
 };
 
@@ -19,7 +19,7 @@ struct Range {
 };
 
 struct Lead {
-    std::size_t length; ///< 0: no sequence begins with this byte
+    std::size_t length; ///< 0 if no sequence begins with this byte
     Range second; ///< narrower than 80..BF where overlong forms, surrogates or excess would fit
 };
 
@@ -45,7 +45,7 @@ Lead lead(unsigned char byte) {
     return {0, {}};
 }
 
-/// The sequence at the start of `bytes`, which is not empty and does not begin with an ASCII byte.
+/// The sequence at the start of `bytes`, which must be non-empty and begin with a non-ASCII byte.
 Sequence sequence(std::string_view bytes) {
     const auto [length, second] = lead(static_cast<unsigned char>(bytes.front()));
     if (length == 0) {

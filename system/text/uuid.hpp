@@ -6,11 +6,11 @@
 
 namespace kelmar {
 
-/// A fresh random UUID (version 4) in its canonical form of 36 characters, upper case, that nobody
-/// can guess. Absent when the system gives no random numbers (errno says why).
+/// A new random UUID (version 4) in its canonical form of 36 characters, upper case, which nobody
+/// can guess. Absent if the system returns no random numbers (errno says why).
 std::optional<std::string> randomUuid();
 
-/// Whether `text` is a UUID in that form, of whatever version.
+/// Returns true if `text` is a UUID in that form, of any version.
 bool isUuid(std::string_view text);
 
 } // namespace kelmar
