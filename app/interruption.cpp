@@ -13,8 +13,8 @@ namespace {
 
 constexpr std::array<int, 3> signals{SIGINT, SIGHUP, SIGTERM};
 
-// What a signal handler may touch (signal-safety(7)).
-std::atomic<std::int64_t> firstTime = 0; ///< in milliseconds; 0 before the first
+// All that a signal handler may access (signal-safety(7)).
+std::atomic<std::int64_t> firstTime = 0; ///< in milliseconds; 0 before the first signal
 std::atomic<int> firstSignal = 0;
 static_assert(decltype(firstTime)::is_always_lock_free &&
               decltype(firstSignal)::is_always_lock_free);
@@ -25,9 +25,9 @@ std::int64_t now() {
     return std::int64_t{time.tv_sec} * 1000 + time.tv_nsec / 1'000'000 + 1;
 }
 
-/// One event may come as two signals. Of a terminal that is closed the kernel tells everybody in
-/// the foreground, and a shell in it tells them once more before it ends. timeout(1) signals its
-/// child, and then the group that the child is in.
+/// One event may arrive as two signals. When a terminal closes, the kernel signals the foreground
+/// processes, and the shell signals them again before it ends. timeout(1) signals its child, and
+/// then the child's process group.
 constexpr std::int64_t echo(int number) {
     return number == SIGHUP ? 1000 : 50; // milliseconds
 }
@@ -39,7 +39,7 @@ void takeNote(int number) {
     if (firstTime.compare_exchange_strong(first, time)) {
         firstSignal = number;
     } else if (time - first > echo(number)) {
-        // Held back until this function returns, and then taken as if nobody had handled it.
+        // Blocked until this function returns, then delivered with the default action.
         std::signal(number, SIG_DFL);
         std::raise(number);
     }

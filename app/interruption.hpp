@@ -2,10 +2,10 @@
 
 namespace kelmar {
 
-/// Takes note of SIGINT (Ctrl-C), SIGHUP (a closed terminal) and SIGTERM for as long as it lives,
-/// instead of ending the process at the first; a second one ends it at once. A signal that the
-/// caller ignores, as nohup(1) does with SIGHUP, stays ignored. One object at a time: how a process
-/// takes signals is its own, not an object's.
+/// While an object exists, notes SIGINT (Ctrl-C), SIGHUP (a closed terminal) and SIGTERM instead of
+/// ending the process; a second signal ends it at once. A signal that the process inherited as
+/// ignored, as under nohup(1), stays ignored. At most one object at a time: signal dispositions
+/// belong to the process.
 class Interruption {
 public:
     Interruption();
@@ -13,7 +13,7 @@ public:
     Interruption& operator=(const Interruption&) = delete;
     ~Interruption();
 
-    /// The number of the first signal that came, 0 before any. May be called from any thread.
+    /// The number of the first signal, 0 before any. May be called from any thread.
     [[nodiscard]] static int signal();
 };
 

@@ -14,8 +14,8 @@
 
 namespace {
 
-/// As root every file would look removable without a password, and every home folder would be
-/// root's. Under a test root neither matters; whether the variable's value makes one is judged
+/// As root, every file would look removable without a password, and the home folder would be
+/// root's. Neither matters under a test root. Whether the variable's value is valid is checked
 /// later.
 bool mayRun() {
     return ::getuid() != 0 || std::getenv("KELMAR_UNINSTALLER_TEST_ROOT") != nullptr;

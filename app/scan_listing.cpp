@@ -13,15 +13,15 @@ namespace kelmar {
 
 namespace {
 
-/// Names of data folders are ASCII, so a column is a byte.
+/// Pads to the column's width in bytes: the names of data folders are ASCII.
 std::string column(std::string name) {
     constexpr std::size_t width = 12;
     name.resize(width, ' ');
     return name;
 }
 
-/// Prints lines as long as somebody reads them: a listing ends when its reader has gone, as after
-/// `--scan | head -1`, instead of measuring folders for nobody.
+/// Prints lines as long as somebody reads them. Once the reader has gone, as after `--scan | head
+/// -1`, the listing ends instead of measuring more folders.
 class Listing {
 public:
     explicit Listing(const KelmarPaths& paths) : paths_(paths) {}

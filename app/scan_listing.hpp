@@ -4,8 +4,8 @@
 
 namespace kelmar {
 
-/// Scans and prints what was found, to standard output, each line as soon as it is known: a data
-/// folder that takes minutes to measure holds back its own line and those after it only.
+/// Scans and prints what was found to standard output, each line as soon as it is known. A data
+/// folder that takes minutes to measure delays only its own line and later ones.
 void printScan(const KelmarPaths& paths);
 
 } // namespace kelmar

@@ -18,7 +18,7 @@ namespace {
 constexpr std::int32_t removed = 0;
 constexpr std::int32_t itemsLeft = 1;
 constexpr std::int32_t cancelled = 3;
-constexpr std::int32_t signalBase = 128; // as shells report a program that a signal ended
+constexpr std::int32_t signalBase = 128; // shells add it to the signal's number
 
 std::set<std::string> selection(const Inventory& inventory, bool deleteData) {
     std::set<std::string> selected;
@@ -30,7 +30,7 @@ std::set<std::string> selection(const Inventory& inventory, bool deleteData) {
     return selected;
 }
 
-/// Prints the events of a run as its record.
+/// Prints the events of a run as its log.
 class EventPrinter {
 public:
     explicit EventPrinter(const Uninstaller& uninstaller) {
@@ -54,7 +54,7 @@ private:
     std::map<Uninstaller::Stage, std::string> titles_;
 };
 
-/// Prints how a run ended; its exit status.
+/// Prints how a run ended and returns its exit status.
 class Report {
 public:
     explicit Report(const KelmarPaths& paths) : paths_(paths) {}

@@ -2,8 +2,8 @@
 
 namespace kelmar {
 
-/// Opens the window and returns when it has been closed: 0, or 2 with one line on standard error
-/// where this system cannot show it. Called on the main thread, at most once.
+/// Opens the window and returns 0 when it has been closed. If this system cannot show it, prints
+/// one line on standard error and returns 2. Call it on the main thread, at most once.
 int runWindowApplication();
 
 } // namespace kelmar

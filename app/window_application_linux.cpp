@@ -22,8 +22,9 @@ int complain(const std::string& why) {
 
 } // namespace
 
-// The window is a module beside the executable, so that the command line neither needs nor waits
-// for a toolkit. The module itself is linked to be resolved at once (ld(1), -z now); the libraries
+// The window is a module beside the executable, so that the command line neither depends on a
+// toolkit nor loads one. The module itself is linked to be resolved at load (ld(1), -z now); its
+// libraries resolve lazily.
 // below it need not be.
 int runWindowApplication() {
     const std::optional<std::string> path = resourcePath("kelmar-window.so");
@@ -36,7 +37,7 @@ int runWindowApplication() {
         const char* const words = ::dlerror();
         return complain(words != nullptr ? words : "kelmar-window.so has no window");
     }
-    reinterpret_cast<void (*)()>(entry)(); // dlsym(3): what POSIX wants to be possible
+    reinterpret_cast<void (*)()>(entry)(); // dlsym(3): POSIX requires this cast
     return 0;
 }
 
