@@ -1,4 +1,4 @@
-// The least that a window with a line of text costs: what the program's own is measured beside.
+// A minimal window with a line of text: the baseline for the program's own.
 
 #include <QApplication>
 #include <QLabel>

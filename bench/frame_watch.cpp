@@ -18,7 +18,7 @@ constexpr int stripTop = 30;
 constexpr int stripHeight = 40;
 constexpr std::chrono::seconds timeout(20);
 
-/// A window may be gone before it is asked about: no reason to end the run.
+/// A window may be destroyed before a request about it arrives: no reason to end the run.
 int ignoreError(Display* /*display*/, XErrorEvent* /*error*/) {
     return 0;
 }
@@ -80,7 +80,7 @@ bool FrameWatch::follow(Clock::time_point end, Enough enough) {
 FrameWatch::Clock::time_point FrameWatch::firstFrame() {
     watched_ = 0;
     drawings_ = 0;
-    // That a window comes on the screen counts as a drawing too, though nothing is in it yet.
+    // Mapping a window also counts as a drawing, before the window has any content.
     const auto drawn = [this, looked = std::size_t{0}]() mutable {
         return std::exchange(looked, drawings_) != drawings_ && showsSomething();
     };
@@ -91,7 +91,7 @@ FrameWatch::Clock::time_point FrameWatch::firstFrame() {
 }
 
 bool FrameWatch::showsSomething() const {
-    // A strip is enough, and quickly read: both windows have a text in it.
+    // A strip suffices and is quick to read: both windows have text in it.
     const std::unique_ptr<XImage, void (*)(XImage*)> strip(
         ::XGetImage(display_.get(), watched_, 0, stripTop, windowWidth, stripHeight, AllPlanes,
                     ZPixmap),

@@ -9,31 +9,31 @@
 
 namespace kelmar::bench {
 
-/// Sees from outside what is drawn into the windows of other programs: a client of the X server
-/// that is told of every window and of every drawing into one (the extension "damage").
+/// Watches from outside what other programs draw into their windows: an X client that is notified
+/// of every window and of every drawing into one (the extension "damage").
 class FrameWatch {
 public:
     using Clock = std::chrono::steady_clock;
 
-    /// On the screen that DISPLAY names.
+    /// Connects to the screen that DISPLAY names.
     FrameWatch();
 
-    /// Waits until there is something to be seen in a window of 600 by 620, and says when that was.
-    /// Ends the run when none comes.
+    /// Waits until a window of 600 by 620 shows something, and returns the time. Ends the run if
+    /// none does before a timeout.
     Clock::time_point firstFrame();
 
-    /// Waits until nothing has been drawn for `quiet`. How often something was until then. Ends the
-    /// run when drawing does not end.
+    /// Waits until nothing has been drawn for `quiet`. Returns the number of drawings until then.
+    /// Ends the run if drawing does not stop.
     std::size_t untilStill(std::chrono::milliseconds quiet);
 
-    /// Waits for `time`. How often something was drawn.
+    /// Waits for `time`. Returns the number of drawings.
     std::size_t drawingsWithin(std::chrono::milliseconds time);
 
-    /// Waits until the window that was seen last is gone.
+    /// Waits until the window last seen has been destroyed.
     void untilGone();
 
 private:
-    /// Takes in what the server says until `end`, or until `enough` says so.
+    /// Processes the server's events until `end`, or until `enough` returns true.
     template <class Enough>
     bool follow(Clock::time_point end, Enough enough);
     void takeEvent();
@@ -41,9 +41,9 @@ private:
 
     std::unique_ptr<Display, int (*)(Display*)> display_;
     int damageEvent_ = 0;
-    std::map<Window, bool> windows_; ///< those at the top level, and whether each is on the screen
+    std::map<Window, bool> windows_; ///< top-level windows, and whether each is mapped
     Window watched_ = 0;             ///< the one of the right size, once it has been drawn into
-    std::size_t drawings_ = 0;       ///< into that one
+    std::size_t drawings_ = 0;       ///< into the watched window
 };
 
 } // namespace kelmar::bench

@@ -17,12 +17,12 @@ namespace {
 
 constexpr std::chrono::seconds timeout(120);
 
-/// Waits until the X server has done all that it was asked for.
+/// Waits until the X server has processed all earlier requests.
 void finishDrawing() {
     const auto* const x11 = qApp->nativeInterface<QNativeInterface::QX11Application>();
     require(x11 != nullptr, "the window is on an X server");
     xcb_connection_t* const connection = x11->connection();
-    // Requests are answered in their order: this one has no other effect.
+    // The server replies in order, and this request has no other effect.
     std::free(xcb_get_input_focus_reply(connection, xcb_get_input_focus(connection), nullptr));
 }
 
@@ -54,7 +54,7 @@ void PaintedApplication::runUntil(const std::function<bool()>& enough) {
 }
 
 bool PaintedApplication::notify(QObject* receiver, QEvent* event) {
-    // The event may be gone when it has been handled.
+    // Read now: the handler may delete the event.
     const bool paints = receiver == window_ && event->type() == QEvent::UpdateRequest;
     const bool handled = QApplication::notify(receiver, event);
     if (window_ == nullptr) {

@@ -10,8 +10,8 @@
 
 namespace kelmar::bench {
 
-/// Collects the repetitions of benchmarks named KEY/ours and KEY/beside and prints, at the end, one
-/// row a pair: both medians and their ratio.
+/// Collects the repetitions of benchmarks named KEY/ours and KEY/beside. At the end prints one row
+/// for each pair: both medians and their ratio.
 class PairReporter : public benchmark::BenchmarkReporter {
 public:
     explicit PairReporter(std::map<std::string, Pair> pairs) : pairs_(std::move(pairs)) {}
@@ -19,7 +19,7 @@ public:
     bool ReportContext(const Context& context) override;
     void ReportRuns(const std::vector<Run>& runs) override;
 
-    /// The table, as Markdown.
+    /// Prints the table, as Markdown.
     void printTable() const;
 
 private:

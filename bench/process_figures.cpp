@@ -11,7 +11,7 @@ namespace kelmar::bench {
 
 namespace {
 
-/// The number behind `name` in a file of lines "name: number".
+/// The number after `name` in a file of lines "name: number".
 std::int64_t numberIn(const std::string& file, const std::string& name) {
     std::ifstream lines(file);
     std::string word;
@@ -29,8 +29,8 @@ std::int64_t ticksOf(const std::string& folder) {
     std::ifstream file(folder + "/stat");
     std::string text;
     std::getline(file, text);
-    // proc(5): the second field is the name in brackets, which may hold anything; the twelfth and
-    // thirteenth behind it are the time in the program and the time in the kernel.
+    // proc(5): the second field is the name in brackets, which may hold anything. The twelfth and
+    // thirteenth after it are user and system time.
     const std::size_t end = text.rfind(')');
     require(end != std::string::npos, "the processor time of a process");
     std::istringstream fields(text.substr(end + 1));
@@ -62,7 +62,7 @@ ProcessorUse processorUse(pid_t process) {
         const std::string path = thread.path().string();
         double running = 0;
         if (!(std::ifstream(path + "/schedstat") >> running)) {
-            continue; // this thread has ended meanwhile
+            continue; // the thread has ended meanwhile
         }
         use.milliseconds += running / nanoseconds;
         use.switches += numberIn(path + "/status", "voluntary_ctxt_switches:");

@@ -7,25 +7,25 @@
 
 namespace kelmar::bench {
 
-/// What proc(5) says of a process.
+/// Memory of a process, from proc(5).
 struct MemoryUse {
-    double residentMiB = 0;     ///< all that is in memory for it, whoever else uses it
-    double proportionalMiB = 0; ///< the same, what is shared divided among its users
+    double residentMiB = 0;     ///< all resident memory, shared or not
+    double proportionalMiB = 0; ///< the same, with shared pages divided among their users
 };
 
-/// Ends the run when there is no such process any more.
+/// Ends the run if the process has ended.
 MemoryUse memoryUse(pid_t process);
 
-/// Of all threads that there are.
+/// Sum over all current threads.
 struct ProcessorUse {
-    std::int64_t ticks = 0;    ///< of the clock, as proc(5) counts processor time
-    double milliseconds = 0;   ///< the same time by the scheduler's own, finer clock
-    std::int64_t switches = 0; ///< how often one of the threads went to sleep
+    std::int64_t ticks = 0;    ///< processor time in clock ticks, as in proc(5)
+    double milliseconds = 0;   ///< the same from the scheduler's finer clock
+    std::int64_t switches = 0; ///< voluntary context switches
 };
 
 ProcessorUse processorUse(pid_t process);
 
-/// Whether one of its threads has that name.
+/// Returns true if one of its threads has that name.
 bool hasThread(pid_t process, const std::string& name);
 
 } // namespace kelmar::bench

@@ -1,6 +1,5 @@
-// Measures the program beside the system's own tools, the two in random alternation within one run,
-// and prints the ratios of their medians. Takes the folder to build its trees in as its one
-// argument.
+// Measures the program beside the system's own tools, alternating at random within one run, and
+// prints the ratios of their medians. Its one argument is the folder in which to build its trees.
 
 #include "bench/pair_reporter.hpp"
 #include "bench/require.hpp"
@@ -107,7 +106,7 @@ void measureOwnership(const std::string& root) {
     });
 }
 
-/// A data folder of 200,000 files in 2,000 folders, made anew before each removal.
+/// A data folder of 200,000 files in 2,000 folders, created again before each removal.
 class Rubbish {
 public:
     explicit Rubbish(std::string root) : root_(std::move(root)) {}
@@ -158,7 +157,8 @@ void measureRemoval(const std::string& root) {
     });
 }
 
-/// An uninstall of a small tree beside what it runs: seven times rm and once the script.
+/// An uninstall of a small tree beside the programs that it runs: seven times rm and once the
+/// script.
 void measureSmallRun(const std::string& root) {
     const auto make = [root] {
         test::MacTree(root)

@@ -5,8 +5,7 @@
 
 namespace kelmar::bench {
 
-/// Ends the run when something is not as a measurement needs it: a figure of something else would
-/// say nothing.
+/// Ends the run if a precondition of a measurement does not hold: the figure would mean nothing.
 inline void require(bool holds, const char* what) {
     if (!holds) {
         std::fprintf(stderr, "not measured: %s\n", what);

@@ -1,6 +1,6 @@
 // Measures the program's window from outside, beside a bare one of the same size: the time to the
-// first frame and the memory, the two in random alternation, and what it takes while nothing
-// happens. Takes a sample Mac's folder as its one argument.
+// first frame and the memory, in random alternation, and the load at rest. Its one argument is the
+// folder of a sample Mac.
 
 #include "bench/frame_watch.hpp"
 #include "bench/pair_table.hpp"
@@ -27,7 +27,7 @@ namespace {
 
 using namespace std::chrono_literals;
 
-/// A program with a window, from its start until this ends.
+/// Runs a program with a window for the life of the object.
 class WindowProgram {
 public:
     WindowProgram(FrameWatch& watch, const std::string& program)
@@ -57,7 +57,7 @@ private:
     FrameWatch::Clock::time_point firstFrame_;
 };
 
-/// Does `ours` and `beside` `runs` times each, in a new random order every time.
+/// Runs `ours` and `beside` `runs` times each, in a new random order every time.
 void alternate(int runs, const std::function<void()>& ours, const std::function<void()>& beside) {
     std::mt19937 random{std::random_device()()};
     std::array<const std::function<void()>*, 2> both{&ours, &beside};
@@ -76,10 +76,10 @@ void measureStart(FrameWatch& watch) {
     const auto start = [&watch](const char* program) {
         return WindowProgram(watch, program).millisecondsToFirstFrame();
     };
-    // Once unseen, so that neither reads its files from the disk.
+    // One start each that does not count: neither then reads its files from the disk.
     start(KELMAR_EXECUTABLE);
     start(KELMAR_BARE_WINDOW);
-    // Many: the ratio is near its limit, and a start is short.
+    // Many runs, since the ratio is near its limit and a start is short.
     alternate(
         61, [&] { ours.push_back(start(KELMAR_EXECUTABLE)); },
         [&] { beside.push_back(start(KELMAR_BARE_WINDOW)); });

@@ -1,6 +1,6 @@
-// Measures from inside how soon the window shows what the model says, on an X server of its own:
-// while a thousand changes a second come, and while a record of 100,000 lines does. Takes an empty
-// folder as its one argument.
+// Measures from inside how soon the window shows what the model publishes, on an X server of its
+// own: at a thousand changes a second, and with a log of 100,000 lines. Its one argument is an
+// empty folder.
 
 #include "bench/painted_application.hpp"
 #include "bench/pair_table.hpp"
@@ -40,7 +40,8 @@ double milliseconds(Clock::duration time) {
     return std::chrono::duration<double, std::milli>(time).count();
 }
 
-/// `count` data folders of `scope`. The sum of any of their sizes is another one, and reads so.
+/// `count` data folders of `scope`. Any selection of them has another total, which also reads
+/// differently.
 Inventory inventoryOf(const KelmarPaths& paths, Scope scope, int count) {
     DataRoot root{scope, paths.dataRoot(scope), {}, {}};
     std::int64_t bytes = 10'000'000;
@@ -69,7 +70,7 @@ void rest(Clock::duration time) {
     PaintedApplication::runUntil([end] { return Clock::now() >= end; });
 }
 
-/// The window on what was found and measured, at rest.
+/// Opens the window on a scanned and measured inventory, and waits until it is idle.
 std::unique_ptr<AppDelegate> openWindow(const KelmarPaths& paths, Model::Sources sources) {
     auto delegate = std::make_unique<AppDelegate>(paths, std::move(sources));
     delegate->applicationDidFinishLaunching();
@@ -82,15 +83,15 @@ std::unique_ptr<AppDelegate> openWindow(const KelmarPaths& paths, Model::Sources
     return delegate;
 }
 
-/// The way of changes from another thread to the screen.
+/// Sends changes from another thread to the screen and times them.
 class Changes {
 public:
     explicit Changes(UninstallerView& view)
         : view_(view),
           folders_(view.model->published().inventory.dataFolders()) {}
 
-    /// Changes the choice of one folder, and with it the total: `index` says which. The first
-    /// folder stays chosen, so that the total stays one.
+    /// Changes the choice of the folder at `index`, and with it the total. The first folder stays
+    /// chosen, so that there always is a total.
     void make(std::size_t index, Clock::time_point handedOver) {
         const DataFolder& folder = folders_.at(1 + index % (folders_.size() - 1));
         const Clock::time_point made = Clock::now();
@@ -112,7 +113,7 @@ public:
         rendered_.clear();
     }
 
-    std::vector<double> fromThread; ///< milliseconds from handing over to the screen
+    std::vector<double> fromThread; ///< milliseconds from posting to the screen
     std::vector<double> fromModel;  ///< milliseconds from the model's change to the screen
 
 private:
@@ -164,7 +165,7 @@ void measureChanges(PaintedApplication& application, const KelmarPaths& paths) {
     printLatencies("the model's change", changes.fromModel, "");
 }
 
-/// Writes a record of 100,000 lines, in portions that grow.
+/// Writes a log of 100,000 lines, in portions that grow.
 class LongRecord {
 public:
     static constexpr int lines = 100'000;
