@@ -29,7 +29,7 @@ void write(const std::string& path, const std::string& text, fs::perms permissio
     fs::permissions(path, permissions);
 }
 
-/// Volumes and service names are file names in /box once their slashes are gone.
+/// Replaces slashes: volumes and service names become file names in /box.
 std::string flat(std::string name) {
     for (char& character : name) {
         character = character == '/' ? ':' : character;
@@ -131,7 +131,7 @@ void Box::addKeychainItem(const std::string& service, const std::string& item) c
     set("/box/keychain/" + service, item + "\n");
 }
 
-/// Makes root and the user the only accounts: this machine may have one of the user's name or
+/// Makes root and the user the only accounts, since this machine may already use the user's name or
 /// number. Gives the user a password and the right to run anything with it.
 void Box::addAccounts() const {
     for (const char* const file : {"/etc/passwd", "/etc/shadow"}) {

@@ -16,13 +16,13 @@
 
 namespace kelmar::test {
 
-/// A pretend Mac: this machine's file system with a layer over it, in a mount namespace of this
-/// process, so that nothing outside sees what happens in it. At the paths of macOS's tools stand
-/// fakes that record their calls and answer from state in /box; an ordinary user has a home folder.
-/// The real executable runs in it, on the real paths.
+/// A pretend Mac: this machine's file system with an overlay, in this process's mount namespace, so
+/// that nothing outside sees the changes. At the paths of macOS's tools are fakes that log their
+/// calls and answer from state in /box; an ordinary user has a home folder. The real executable
+/// runs in it, on the real paths.
 class Box {
 public:
-    /// Why this machine can't have a box, if it can't.
+    /// Why this machine can't have a box; absent if it can.
     static std::optional<std::string> skipReason();
 
     static constexpr uid_t user = 501;
@@ -32,25 +32,24 @@ public:
     Box& operator=(const Box&) = delete;
     ~Box();
 
-    /// Where a path of the box lies for this process.
+    /// The path by which this process reaches a path of the box.
     [[nodiscard]] std::string outside(const std::string& path) const { return root_ + path; }
 
-    /// Builds product files at the box's real paths, owned by root; `chownToUser` hands a part
-    /// over.
+    /// Builds product files at the box's real paths, owned by root; `chownToUser` gives a part to
+    /// the user.
     [[nodiscard]] MacTree tree() const;
     void chownToUser(const std::string& path) const;
 
-    /// With an `error`, the receipt can't be forgotten, and pkgutil prints the error.
+    /// If there is an `error`, forgetting the receipt fails and pkgutil prints the error.
     void addReceipt(const std::string& identifier, const std::string& volume,
                     const std::string& error = "") const;
     void addService(const std::string& label, const std::string& plist) const;
     void addKeychainItem(const std::string& service, const std::string& item = "item") const;
 
-    /// Puts a file into the box, for everyone to change: state of the fake tools.
+    /// Writes a file in the box that everyone may change: state of the fake tools.
     void set(const std::string& path, const std::string& text = "") const;
 
-    /// A program in the box that answers sudo's question for a password; `script` prints the
-    /// answer.
+    /// A program in the box that answers sudo's password prompt; `script` prints the answer.
     [[nodiscard]] static std::string askpass() { return "/box/askpass"; }
 
     void answerPasswordWith(const std::string& script) const { replace(askpass(), script); }
@@ -65,16 +64,16 @@ public:
     /// Runs a shell script in the box as root, in the background, until the box ends.
     void runInBackground(const std::string& script) const;
 
-    /// Mounts an empty folder over a folder of the box, which then nobody can remove.
+    /// Mounts an empty folder over a folder of the box, so that nobody can remove it.
     void mountOver(const std::string& path) const;
 
-    /// Puts another program in the place of one in the box.
+    /// Replaces a program of the box.
     void replace(const std::string& path, const std::string& script) const;
 
-    /// The uninstaller in the box, started by its user without the test-root variable.
+    /// The uninstaller in the box, as its user starts it, without the test-root variable.
     [[nodiscard]] Program uninstaller(const std::vector<std::string>& arguments) const;
 
-    /// The calls of the fake tools so far, one command line each, in order.
+    /// The calls of the fake tools so far, in order, one command line each.
     [[nodiscard]] std::vector<std::string> calls() const;
 
 private:

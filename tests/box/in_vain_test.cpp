@@ -11,10 +11,10 @@ namespace {
 namespace fs = std::filesystem;
 using test::ProgramEnd;
 
-/// What no password helps against is said before one is asked for.
+/// What no password can remove is reported before the program asks for one.
 class InVain : public test::UninstallOnAPretendMac {
 protected:
-    /// A run in which the password is refused: what it says was said before.
+    /// A run in which the password is refused: all that it reports was printed before.
     [[nodiscard]] ProgramEnd refused() const {
         box->answerPasswordWith("exit 1\n");
         return uninstall("--delete-data");

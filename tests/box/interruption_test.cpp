@@ -21,7 +21,8 @@ using test::ProgramEnd;
 
 class InterruptionOnAPretendMac : public test::UninstallOnAPretendMac {
 protected:
-    /// What becomes of a run with Ctrl-C pressed once the file `/box/tmp/ready` is there.
+    /// Runs the program, presses Ctrl-C once the file `/box/tmp/ready` exists, and returns how it
+    /// ended.
     [[nodiscard]] ProgramEnd pressCtrlCWhenReady() const {
         int keyboard = -1;
         int screen = -1;
@@ -47,7 +48,7 @@ protected:
         return end;
     }
 
-    /// Lets a tool signal the program that runs it, when it is called with `word`.
+    /// Makes a tool send a signal to the program that runs it, when it is called with `word`.
     void signalAt(const std::string& tool, const std::string& word) const {
         const std::string whole = "/box/whole" + tool;
         std::filesystem::create_directories(

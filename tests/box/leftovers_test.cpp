@@ -149,8 +149,8 @@ TEST_F(Leftovers, PermissionsThatAreNotResetAreSaidAndNoFailure) {
               "reset All approval status for com.quobrintal.app");
 }
 
-/// Stands for the system's preferences cache: writes the file anew for as long as it knows the
-/// domain. The lock keeps it from forgetting between the question and the writing.
+/// Acts as the system's preferences cache: writes the file again as long as it knows the domain.
+/// The lock keeps it from forgetting the domain between check and write.
 const std::string preferencesCache =
     "file=/Users/ann/Library/Preferences/com.quobrintal.app.plist\n"
     "exec 9>/box/preferences-lock\n"

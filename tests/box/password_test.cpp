@@ -11,10 +11,10 @@ using test::Box;
 using test::linesOf;
 using test::ProgramEnd;
 
-/// With the real sudo, for a real user with a real password.
+/// With the real sudo, and a real user with a real password.
 class Password : public test::UninstallOnAPretendMac {
 protected:
-    /// One shared folder is all that there is, so that the administrator is all that is needed.
+    /// One shared folder is all that is installed, so that only the administrator has work.
     void SetUp() override {
         UninstallOnAPretendMac::SetUp();
         if (!IsSkipped()) {

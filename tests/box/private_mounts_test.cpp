@@ -14,7 +14,7 @@
 namespace kelmar {
 namespace {
 
-/// A folder for a test with something of this machine's mounted in it.
+/// A test's folder with something of this machine mounted in it.
 struct Mounted {
     explicit Mounted(const std::string& machines) {
         mounts.bind(machines, folder / "inside");

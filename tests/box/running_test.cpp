@@ -17,7 +17,7 @@ namespace {
 using test::linesOf;
 using test::ProgramEnd;
 
-/// The app and its services, running while they are uninstalled.
+/// The app and its services run while they are uninstalled.
 class Running : public test::UninstallOnAPretendMac {
 protected:
     static constexpr const char* myApp = "/Users/ann/Applications/Kelmar.app/Contents/MacOS/Kelmar";
@@ -53,8 +53,8 @@ TEST_F(Running, AnAppThatDoesNotAnswerIsTerminated) {
     EXPECT_TRUE(helper.hasEnded());
 }
 
-/// Makes this process the parent of what its children leave behind, and reaps one of these when it
-/// ends.
+/// Makes this process the parent of its children's orphans (subreaper), and reaps one of them when
+/// it ends.
 class Orphan {
 public:
     Orphan() { ::prctl(PR_SET_CHILD_SUBREAPER, 1); }
@@ -71,7 +71,7 @@ public:
         ::munmap(process_, sizeof(pid_t));
     }
 
-    /// Forks, in the child of a test: parent and child go on to be the program.
+    /// Called in a test's child before exec: forks, and both processes become the program.
     [[nodiscard]] std::function<void()> fork() const {
         return [process = process_] {
             const pid_t child = ::fork();
@@ -87,11 +87,11 @@ private:
     void reap() const {
         while (!over_ && (*process_ == 0 || ::waitpid(*process_, nullptr, WNOHANG) != *process_)) {
             std::this_thread::sleep_for(
-                std::chrono::milliseconds(5)); // it is ours when its parent has ended
+                std::chrono::milliseconds(5)); // it is our child once its parent has ended
         }
     }
 
-    // Shared with the child that forks.
+    // In memory shared with the child that forks.
     pid_t* process_ = static_cast<pid_t*>(
         ::mmap(nullptr, sizeof(pid_t), PROT_READ | PROT_WRITE, MAP_SHARED | MAP_ANONYMOUS, -1, 0));
     std::atomic<bool> over_{false};

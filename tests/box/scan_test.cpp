@@ -126,7 +126,7 @@ TEST_F(ScanOfAPretendMac, ARunningAppIsNotedBesideWhatThereIsToRemove) {
 
 TEST_F(ScanOfAPretendMac, ASlowFolderDoesNotHoldBackTheLinesBeforeIt) {
     box->tree().dataFolder(Scope::me, "Database").dataFolder(Scope::me, "Store");
-    // It ends when the line before its own has come, or else never.
+    // It ends once the line before its own has arrived, or never.
     box->replace("/usr/bin/du", "case $2 in */Store)\n"
                                 "    while [ ! -e /box/seen ]; do sleep 0.02; done ;;\n"
                                 "esac\nprintf '12\\t%s\\n' \"$2\"\n");

@@ -5,7 +5,7 @@
 namespace kelmar {
 namespace {
 
-/// Root believes sudo about who asks, and nobody else.
+/// Root trusts only sudo to say who asks.
 class ScriptAndAsker : public test::ScriptOnAPretendMac {
 protected:
     void SetUp() override {
@@ -17,7 +17,7 @@ protected:
         }
     }
 
-    /// Refused with this status and these words, and nothing was touched.
+    /// The script exits with this status and message, and has touched nothing.
     void expectRefusal(const test::Program& program, int exitStatus, const std::string& words) {
         const auto before = test::contents(box->outside("/Users"));
         const test::ProgramEnd end = program.run();

@@ -29,7 +29,7 @@ protected:
         box->chownToUser(place);
     }
 
-    /// The script with the status file and these arguments, started as sudo starts it.
+    /// The script with the status file and these arguments, started as sudo would.
     [[nodiscard]] Program script(std::vector<std::string> arguments) const {
         Program program;
         program.path = "/bin/bash";
@@ -40,7 +40,7 @@ protected:
         return program;
     }
 
-    /// Runs it: it ends well and without a word. Returns the status lines.
+    /// Runs it and expects success without output. Returns the status lines.
     [[nodiscard]] Lines run(std::vector<std::string> arguments) const {
         const ProgramEnd end = script(std::move(arguments)).run();
         EXPECT_EQ(end.status, 0);
@@ -48,7 +48,7 @@ protected:
         return linesOfFile(box->outside(status));
     }
 
-    /// A program at `path` of the box that calls itself `name`, run by `user`.
+    /// A program at `path` of the box with the process name `name`, run by `user`.
     [[nodiscard]] std::unique_ptr<BackgroundProgram>
     startAs(const std::string& name, const std::string& path, uid_t user) const {
         box->tree().folder(box->outside(std::filesystem::path(path).parent_path()));

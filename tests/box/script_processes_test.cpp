@@ -9,7 +9,7 @@ using test::BackgroundProgram;
 using test::Box;
 using test::linesOf;
 
-/// Which processes root ends, and which it does not.
+/// Which processes root ends, and which not.
 class ScriptAndProcesses : public test::ScriptOnAPretendMac {
 protected:
     [[nodiscard]] static bool contains(const Lines& lines, const std::string& line) {

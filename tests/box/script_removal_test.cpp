@@ -8,7 +8,7 @@
 namespace kelmar {
 namespace {
 
-/// What root removes with, what it does where that can't be had, and what is locked.
+/// How root removes items, what it does if its tools are missing, and how it treats locked items.
 class ScriptAndRemoval : public test::ScriptOnAPretendMac {
 protected:
     void SetUp() override {
@@ -22,8 +22,8 @@ protected:
         return "FAIL /Library/Kelmar\t" + reason;
     }
 
-    /// Lets the immutable flag be the one that a file's owner may take away, as root's rm(1) does
-    /// on a Mac, where `chflags nouchg` does it too.
+    /// Makes the immutable flag here act like a Mac's `uchg`, which its owner may clear, as may
+    /// root's rm(1) and `chflags nouchg`.
     void letLocksBeTheOwners() const {
         std::ofstream(box->outside("/etc/bsd-user-flags")).close();
         box->replace("/usr/bin/chflags",
@@ -32,7 +32,7 @@ protected:
                                      std::filesystem::perms(0755));
     }
 
-    /// How many removals of the item were begun in the sandbox.
+    /// How often a removal of the item was started in the sandbox.
     [[nodiscard]] long held() const {
         const Lines calls = box->calls();
         return std::count(calls.begin(), calls.end(), "<ITEM=/Library/Kelmar>");

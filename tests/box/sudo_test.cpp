@@ -13,8 +13,9 @@ using test::Box;
 using test::linesOf;
 using test::ProgramEnd;
 
-/// What the real sudo says besides asking for a password. The user has an installation of their own
-/// and there is shared data: what becomes of the one shows whether the run went on after the other.
+/// What the real sudo prints besides its prompt. The user has an installation of their own, and
+/// there is shared data: the own installation shows whether the run continued after the shared
+/// data's step.
 class Sudo : public test::UninstallOnAPretendMac {
 protected:
     void SetUp() override {
@@ -32,7 +33,7 @@ protected:
         std::filesystem::permissions(file, std::filesystem::perms(0440));
     }
 
-    /// Nothing was removed, and this is what the log says of it before the line that says so.
+    /// Nothing was removed, and these lines precede the one in the log that says so.
     void expectCancelled(const ProgramEnd& end, const Lines& words) const {
         EXPECT_EQ(end.status, 3);
         Lines expected = words;
@@ -48,7 +49,7 @@ protected:
         EXPECT_TRUE(isThere("/Users/Shared/@Kelmar/CDN"));
     }
 
-    /// The step failed for this reason, and the rest of the run went on.
+    /// The step failed for this reason, and the run continued.
     void expectFailed(const ProgramEnd& end, const std::string& reason) const {
         EXPECT_EQ(end.status, 1);
         const std::size_t at = end.output.find("    Administrator step: ");
@@ -102,7 +103,7 @@ TEST_F(Sudo, ThatCannotReadItsRulesHasAskedNobody) {
 }
 
 TEST_F(Sudo, NeitherUsesNorKeepsAPassword) {
-    // One that was given is good for every command of this user's, for minutes.
+    // The password is then cached for every command of this user for minutes.
     setSudoers("Defaults timestamp_type=global\nann ALL=(ALL) ALL\n");
     test::Program other = program();
     other.path = "/usr/bin/sudo";
@@ -122,7 +123,7 @@ TEST_F(Sudo, NeitherUsesNorKeepsAPassword) {
 }
 
 TEST_F(Sudo, CannotBeSpokenForByTheProgramThatAsks) {
-    // It runs as the user, sees the whole command line, and shares standard error.
+    // The askpass program runs as the user, sees the whole command line, and shares standard error.
     box->answerPasswordWith("tr '\\0' '\\n' </proc/$PPID/cmdline >&2\n"
                             "tr '\\0' '\\n' </proc/$PPID/cmdline\nexit 1\n");
     const ProgramEnd end = program().run();

@@ -26,7 +26,8 @@ protected:
         box->answerPasswordWith(std::string("echo '") + Box::password + "'\n");
     }
 
-    /// Kelmar in both scopes, with everything that the system knows of it, and data in both roots.
+    /// Kelmar in both scopes, with everything that the system knows about it, and data in both
+    /// roots.
     void installEverything() const {
         box->tree().everything();
         box->chownToUser("/Users/ann");
@@ -41,7 +42,7 @@ protected:
         box->addKeychainItem("Kelmar Safe Storage");
     }
 
-    /// Only this user's installation, without anything an administrator is needed for.
+    /// Only this user's installation; nothing needs an administrator.
     void installForMe() const {
         box->tree().app(Scope::me, "4.3").services(Scope::me).agents(Scope::me);
         box->chownToUser("/Users/ann");
@@ -51,7 +52,7 @@ protected:
         return box->uninstaller({"--uninstall", data}).run();
     }
 
-    /// The calls of the fake tools without those of the scans, which change nothing.
+    /// The calls of the fake tools, except those of scans, which change nothing.
     [[nodiscard]] Lines commands() const {
         Lines lines = box->calls();
         lines.erase(std::remove_if(lines.begin(), lines.end(),
@@ -69,7 +70,7 @@ protected:
         return std::filesystem::exists(std::filesystem::symlink_status(box->outside(path)));
     }
 
-    /// Everything of the product's that is on the disk at its fixed places.
+    /// Everything of the product that is on the disk at its fixed places.
     [[nodiscard]] Lines leftOnTheDisk() const {
         Lines left;
         for (const char* const path :

@@ -83,7 +83,7 @@ TEST_F(UninstallOnAPretendMac, AsksTheSystemsToolsExactlyThisInThisOrder) {
          "/bin/launchctl <print> <gui/501/com.kelmar.worker>",
          "/bin/launchctl <bootout> <gui/501/com.kelmar.worker>",
          "/usr/bin/tccutil <reset> <All> <com.quobrintal.app>"});
-    // The script asks the domain of everybody who is logged in.
+    // The script calls launchctl for the domain of everybody who is logged in.
     ASSERT_GT(calls.size(), expected.size());
     EXPECT_TRUE(std::equal(expected.begin(), expected.end(), calls.begin()));
     Lines rest(calls.begin() + static_cast<std::ptrdiff_t>(expected.size()), calls.end());

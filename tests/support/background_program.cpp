@@ -19,7 +19,7 @@ namespace {
 
 [[noreturn]] void become(const std::string& path, std::vector<std::string>& arguments,
                          const std::map<std::string, std::string>& environment, int lineEnd) {
-    ::prctl(PR_SET_PDEATHSIG, SIGKILL); // prctl(2): a test that is killed leaves no server behind
+    ::prctl(PR_SET_PDEATHSIG, SIGKILL); // prctl(2): the server ends even if the test is killed
     const FileDescriptor null(::open("/dev/null", O_RDWR | O_CLOEXEC));
     for (const int stream : {STDIN_FILENO, STDOUT_FILENO, STDERR_FILENO}) {
         ::dup2(null.get(), stream);
@@ -56,7 +56,7 @@ BackgroundProgram::BackgroundProgram(const std::string& path, std::vector<std::s
 }
 
 BackgroundProgram::~BackgroundProgram() {
-    // Not asked politely: none of them has anything to put in order, and a test waits.
+    // No SIGTERM first: the program has nothing to clean up, and a test waits.
     ::kill(process_, SIGKILL);
     ::waitpid(process_, nullptr, 0);
 }

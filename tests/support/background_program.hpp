@@ -10,15 +10,15 @@
 
 namespace kelmar::test {
 
-/// A server or another program beside this process, running as long as the object lives and no
-/// longer than this process. Its standard streams are the null device.
+/// Runs a server or another program beside this process, for the life of the object and no longer
+/// than this process. Its standard streams are the null device.
 class BackgroundProgram {
 public:
-    /// The child's file descriptor that `firstLine` reads; servers are told to write their address
-    /// there.
+    /// The child's file descriptor that `firstLine` reads; tell servers to write their address to
+    /// it.
     static constexpr const char* descriptor = "3";
 
-    /// `environment` is set in the child's on top of this process's own.
+    /// `environment` adds to this process's own.
     BackgroundProgram(const std::string& path, std::vector<std::string> arguments,
                       const std::map<std::string, std::string>& environment = {});
     BackgroundProgram(const BackgroundProgram&) = delete;
@@ -27,8 +27,8 @@ public:
 
     [[nodiscard]] pid_t process() const { return process_; }
 
-    /// The first line that the program writes to the descriptor; to be called once. Throws
-    /// std::runtime_error if none comes before the timeout.
+    /// The first line that the program writes to the descriptor; call it once. Throws
+    /// std::runtime_error if none arrives before the timeout.
     [[nodiscard]] std::string firstLine();
 
 private:

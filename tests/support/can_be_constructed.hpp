@@ -7,15 +7,15 @@
 
 namespace kelmar::test {
 
-/// Whether constructing a `Type` works on this machine, such as one with mounts of its own. It is
-/// tried in a child process, which takes a half-constructed one with it.
+/// Returns true if a `Type` can be constructed on this machine, such as one that needs mounts.
+/// Tries it in a child process, so that a partial construction leaves nothing in this one.
 template <class Type>
 bool canBeConstructed() {
     const pid_t child = ::fork();
     if (child == 0) {
         bool constructed = false;
         try {
-            const Type object; // gone again before the child ends, with all that it constructed
+            const Type object; // destroyed before the child ends
             constructed = true;
         } catch (const std::exception&) {
             constructed = false;

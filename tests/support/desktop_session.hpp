@@ -7,12 +7,12 @@
 
 namespace kelmar::test {
 
-/// The names of the variables in this process's environment by which a desktop tells programs how
-/// to look and behave.
+/// The names of the variables in this process's environment that tell programs how to look and
+/// behave on a desktop.
 std::vector<std::string> desktopVariables();
 
-/// Removes those from this process's environment: it, and what it starts from then on, opens its
-/// windows on `server`, outside of any desktop session. Not while other threads run.
+/// Removes those variables from this process's environment. This process and its later children
+/// then open their windows on `server`, outside of any desktop session. Not thread-safe.
 void leaveDesktopFor(const XServer& server);
 
 } // namespace kelmar::test

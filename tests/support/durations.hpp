@@ -8,8 +8,8 @@ namespace kelmar::test {
 
 using std::chrono::milliseconds;
 
-/// The shortest that `took` returns, of up to 20 times that it is called, until one is below
-/// `limit`: that others are busy makes any of them longer, and none shorter.
+/// Calls `took` up to 20 times, until a result is below `limit`, and returns the shortest. Load on
+/// the machine makes results longer, never shorter.
 template <class Took>
 milliseconds shortestOf(milliseconds limit, const Took& took) {
     milliseconds shortest = took();
@@ -19,7 +19,7 @@ milliseconds shortestOf(milliseconds limit, const Took& took) {
     return shortest;
 }
 
-/// How long it takes, for `shortestOf`.
+/// The elapsed time of `action`, for `shortestOf`.
 template <class Action>
 milliseconds timeOf(const Action& action) {
     const auto start = std::chrono::steady_clock::now();
@@ -27,8 +27,8 @@ milliseconds timeOf(const Action& action) {
     return std::chrono::duration_cast<milliseconds>(std::chrono::steady_clock::now() - start);
 }
 
-/// The time for which it keeps processors busy, on all threads of this process: for work without
-/// waits. Others who are busy have no part in it.
+/// The processor time of `action`, over all threads of this process: for work without waits. Load
+/// from other processes does not count.
 template <class Action>
 milliseconds workOf(const Action& action) {
     const auto worked = [] {

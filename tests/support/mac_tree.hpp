@@ -8,16 +8,16 @@
 
 namespace kelmar::test {
 
-/// Builds the folder tree of a Mac, or of any part of one, below a test root. Every step creates
-/// what it needs and returns the builder, so a tree reads as the list of what is on it:
+/// Builds the folder tree of a Mac, or any part of it, below a test root. Every step creates what
+/// it needs and returns the builder, so a tree reads as a list of its content:
 ///
 ///     MacTree(root).app(Scope::me, "4.2").agents(Scope::me).dataFolder(Scope::me, "Store", 5000);
 class MacTree {
 public:
-    /// `root` is the test root; it and its three folders are created.
+    /// `root` is the test root; creates it and its three folders.
     explicit MacTree(const std::string& root);
 
-    /// A tree at the places that `paths` gives, wherever they are.
+    /// Builds a tree at the places that `paths` gives.
     explicit MacTree(KelmarPaths paths);
 
     MacTree& app(Scope scope, std::string_view version);
@@ -38,7 +38,7 @@ public:
     MacTree& folder(const std::string& path);
     MacTree& link(const std::string& path, const std::string& target);
 
-    /// Everything that the product can have, in both scopes.
+    /// Everything of the product, in both scopes.
     MacTree& everything();
 
     [[nodiscard]] const KelmarPaths& paths() const { return paths_; }
@@ -47,7 +47,7 @@ private:
     KelmarPaths paths_;
 };
 
-/// The paths below the test root `root`, without asking the environment.
+/// The paths below the test root `root`, independent of the environment.
 KelmarPaths pathsUnder(const std::string& root);
 
 /// A version record in the XML form.

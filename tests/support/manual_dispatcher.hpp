@@ -9,7 +9,7 @@
 
 namespace kelmar::test {
 
-/// Keeps jobs until a test runs them, in whatever order it likes, on its own thread.
+/// Keeps jobs until a test runs them, in any order, on the test's own thread.
 class ManualDispatcher : public Dispatcher {
 public:
     void toMain(Job job) override { add(main, std::move(job)); }
@@ -18,7 +18,7 @@ public:
 
     void utility(Job job) override { add(later, std::move(job)); }
 
-    /// Takes the job at `index` out of `jobs` and runs it; what it posts waits.
+    /// Takes the job at `index` out of `jobs` and runs it; jobs that it posts wait.
     void runOne(std::deque<Job>& jobs, std::size_t index = 0) {
         Job job;
         {
@@ -30,14 +30,14 @@ public:
         job();
     }
 
-    /// Runs what is in `jobs`, in order, with what is added to it meanwhile.
+    /// Runs the jobs in `jobs` in order, including those that they add.
     void runAll(std::deque<Job>& jobs) {
         while (!jobs.empty()) {
             runOne(jobs);
         }
     }
 
-    /// Until nothing is left to do anywhere.
+    /// Runs all jobs until none are left.
     void settle() {
         while (!main.empty() || !initiated.empty() || !later.empty()) {
             runAll(main);

@@ -6,9 +6,9 @@
 
 namespace kelmar::test {
 
-/// As long as it lives, no thread can be started in this process: each would get a stack that no
-/// address space has room for (pthread_setattr_default_np(3)), which pthread_create(3) answers as
-/// it does where the system allows no more of them.
+/// While it exists, no thread can be started in this process. Each would get a stack larger than
+/// any address space (pthread_setattr_default_np(3)); pthread_create(3) then fails as it does at
+/// the system's limit of threads.
 class NoThreads {
 public:
     NoThreads() {

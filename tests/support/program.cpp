@@ -40,7 +40,7 @@ ProgramEnd Program::run() const {
             end.timedOut = true;
             ::kill(child, SIGKILL);
         } else if (waited > timeout + std::chrono::seconds(2)) {
-            break; // something that the child started holds the pipes open
+            break; // a descendant of the child holds the pipes open
         }
         std::array<pollfd, 2> ends{
             {{output.readEnd.get(), POLLIN, 0}, {error.readEnd.get(), POLLIN, 0}}};

@@ -4,8 +4,8 @@
 
 namespace kelmar::test {
 
-/// What this machine's /bin/rm says when it cannot remove `path` for `reason`. Coreutils put the
-/// name before it as it was called by, "/bin/rm", and newer ones without the folder.
+/// What this machine's /bin/rm prints when it cannot remove `path` for `reason`. Coreutils begin
+/// with the name it was called by, "/bin/rm"; newer ones omit the folder.
 std::string rmRefusal(const std::string& path, const std::string& reason);
 
 } // namespace kelmar::test

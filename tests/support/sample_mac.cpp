@@ -1,4 +1,4 @@
-// Makes a sample Mac with everything of Kelmar on it, in the folder that the one argument names.
+// Makes a sample Mac with everything of Kelmar in the folder that its one argument names.
 
 #include "tests/support/mac_tree.hpp"
 

@@ -10,10 +10,10 @@
 
 namespace kelmar::test {
 
-/// Stands for the password prompt and the script behind it: does what a test says.
+/// Replaces the password prompt and the script behind it: does what a test says.
 class ScriptedRunner : public AdministratorRunner {
 public:
-    /// What the run does; it gets the path of the status file.
+    /// What a run does, given the path of the status file.
     using Behaviour = std::function<void(const std::string& statusFile)>;
 
     explicit ScriptedRunner(Behaviour behaviour) : behaviour_(std::move(behaviour)) {}
@@ -36,7 +36,7 @@ private:
     Behaviour behaviour_;
 };
 
-/// Writes `text` into the status file and ends successfully.
+/// Writes `text` into the status file and succeeds.
 inline ScriptedRunner::Behaviour writes(const std::string& text) {
     return [text](const std::string& statusFile) {
         std::ofstream(statusFile, std::ios::app | std::ios::binary) << text;

@@ -9,15 +9,15 @@
 
 namespace kelmar::test {
 
-/// A file system that never answers, as one on a server that has gone: with fuse(4), whose other
-/// side is this process, which reads no request. Gone with the mounts; who waits for it can be
+/// A file system that never answers, like one on a server that has gone: fuse(4), with this process
+/// as a server that reads no request. It ends with the mounts; a process that waits for it can be
 /// killed.
 class SilentFileSystem {
 public:
     static constexpr const char* skipReason = "no file system can be served here (/dev/fuse)";
 
-    /// Mounts it at the folder `place`. Only processes of `owner` may ask it anything: others are
-    /// told that they may not.
+    /// Mounts it at the folder `place`. Only processes of `owner` get no answer: others are denied
+    /// access.
     SilentFileSystem(PrivateMounts& mounts, const std::string& place, uid_t owner = 0);
 
     [[nodiscard]] bool works() const { return works_; }

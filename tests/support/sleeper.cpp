@@ -42,7 +42,7 @@ Sleeper::Sleeper(std::string path, const Preparation& prepare) : path_(std::move
         ::execl(path_.c_str(), path_.c_str(), "600", nullptr);
         ::_exit(127);
     }
-    // Until the child has become the program.
+    // Wait until the child has called exec.
     const auto limit = std::chrono::steady_clock::now() + std::chrono::seconds(60);
     while (executablePath(process_) != path_ && std::chrono::steady_clock::now() < limit) {
         std::this_thread::sleep_for(std::chrono::milliseconds(1));

@@ -9,11 +9,10 @@
 
 namespace kelmar::test {
 
-/// A copy of sleep(1) at a path of its own, running until the end of the test unless something ends
-/// it.
+/// A copy of sleep(1) at its own path, running until the end of the test unless something ends it.
 class Sleeper {
 public:
-    /// Last thing before the program, in the child.
+    /// Called in the child just before exec.
     using Preparation = std::function<void()>;
     static Preparation ignoring(std::vector<int> signals);
     static Preparation asUser(uid_t user);
@@ -27,10 +26,10 @@ public:
 
     [[nodiscard]] const std::string& path() const { return path_; }
 
-    /// Lets the process vanish as soon as it ends, as a stranger's would; else it stays a zombie
+    /// Reaps the process as soon as it ends, as another parent would; otherwise it stays a zombie
     /// until the end of the test.
     void reapInBackground();
-    /// Whether it has ended by now.
+    /// Returns true if it has ended.
     [[nodiscard]] bool hasEnded();
 
 private:

@@ -8,9 +8,9 @@
 
 namespace kelmar::test {
 
-/// An ordinary user at work: lets each of these pairs of paths change places and back again, one
-/// pair after another, as fast as one thread can. Each change is one step (renameat2(2)), so that
-/// there is always something at either path.
+/// Acts as an ordinary user who causes races: exchanges each of these pairs of paths and exchanges
+/// them back, one pair after another, as fast as one thread can. Each exchange is atomic
+/// (renameat2(2)), so both paths always exist.
 class Swapper {
 public:
     using Pair = std::pair<std::string, std::string>;
@@ -20,7 +20,7 @@ public:
     Swapper& operator=(const Swapper&) = delete;
     ~Swapper();
 
-    /// How often two paths have changed places.
+    /// The number of exchanges so far.
     [[nodiscard]] long swaps() const { return swaps_; }
 
 private:
@@ -30,7 +30,7 @@ private:
     std::thread thread_;
 };
 
-/// How often a race is run: 20 times, or as the environment variable KELMAR_RACES says.
+/// How often to repeat a race: 20 times, or as the environment variable KELMAR_RACES says.
 int races();
 
 } // namespace kelmar::test

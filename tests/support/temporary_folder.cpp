@@ -15,7 +15,7 @@ TemporaryFolder::TemporaryFolder() {
         throw std::system_error(errno, std::generic_category(), pattern);
     }
     path_ = pattern;
-    // Programs that a test runs as another user must be able to pass through.
+    // Other users may search it: tests run programs as them.
     std::filesystem::permissions(path_, std::filesystem::perms(0755));
 }
 

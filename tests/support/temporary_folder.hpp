@@ -4,8 +4,8 @@
 
 namespace kelmar::test {
 
-/// A fresh folder for one test, removed with everything in it at the end. Its path is physical: no
-/// part of it is a link.
+/// A new folder for one test; the destructor removes it with its content. No part of its path is a
+/// symlink.
 class TemporaryFolder {
 public:
     TemporaryFolder();

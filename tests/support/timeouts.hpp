@@ -15,15 +15,15 @@
 
 namespace kelmar::test {
 
-/// Whether this build has a sanitizer in it: such a program is several times slower, so that its
-/// times say nothing about the one that people get.
+/// True if this build has a sanitizer: such a program is several times slower, so that its times
+/// say nothing about the shipped one.
 constexpr bool isSanitized = KELMAR_SANITIZED != 0;
 
-/// The longest that a program may take to exit once it is told to, at a moment when it may.
+/// The longest time that a program may take to exit when it is told to and is allowed to.
 constexpr std::chrono::milliseconds exitTimeout(isSanitized ? 3'000 : 200);
 
-/// The timeout of a wait for what must come, from its construction on; only a failing test waits so
-/// long.
+/// The timeout of a wait for something that must happen, counted from construction; only a failing
+/// test waits so long.
 class Deadline {
 public:
     [[nodiscard]] bool hasPassed() const { return std::chrono::steady_clock::now() > end_; }

@@ -8,7 +8,7 @@
 
 namespace kelmar::test {
 
-/// The events of a run as lines, "started close", "log Removed ~/x", to be compared as a whole.
+/// The events of a run as lines, "started close", "log Removed ~/x", for comparison as a whole.
 class Transcript {
 public:
     void operator()(const Uninstaller::Event& event) { std::visit(*this, event); }
@@ -25,7 +25,7 @@ public:
 
     void operator()(const Uninstaller::Log& event) { lines.push_back("log " + event.text); }
 
-    /// To be handed to the engine, which keeps a copy of what it is given.
+    /// A callback for the engine, which keeps its own copy.
     Uninstaller::Emit emit() {
         return [this](const Uninstaller::Event& event) { (*this)(event); };
     }

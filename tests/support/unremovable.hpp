@@ -4,8 +4,8 @@
 
 namespace kelmar::test {
 
-/// Makes a file or folder one that even root cannot remove, by its immutable flag, until the end of
-/// the object's life. On the Mac people know it as "Locked".
+/// Sets the immutable flag of a file or folder for the life of the object, so that not even root
+/// can remove it. macOS calls such a file "Locked".
 class Unremovable {
 public:
     static constexpr const char* skipReason =

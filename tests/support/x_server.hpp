@@ -7,14 +7,15 @@
 
 namespace kelmar::test {
 
-/// An X server whose screen is in memory, Xvfb(1), running as long as the object lives. Clients of
-/// any user are let in. No window manager runs on it.
+/// Runs Xvfb(1), an X server whose screen is in memory, for the life of the object. It accepts
+/// clients of any user and has no window manager.
 class XServer {
 public:
-    /// Why this machine can't start one; nothing if it can.
+    /// Why this machine can't start one; absent if it can.
     static std::optional<std::string> skipReason();
 
-    /// With one screen of that many pixels. Throws std::runtime_error if the server doesn't start.
+    /// Starts it with one screen of that many pixels. Throws std::runtime_error if the server
+    /// doesn't start.
     XServer(int width, int height);
 
     /// The value for DISPLAY.
