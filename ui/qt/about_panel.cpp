@@ -12,7 +12,7 @@ namespace kelmar {
 
 namespace {
 
-/// That many, as wide as high, have room beside the title: two on either side of its middle.
+/// Square buttons to leave room for beside the title: two on either side of its centre.
 constexpr int frameButtons = 4;
 
 } // namespace
@@ -34,7 +34,7 @@ AboutPanel::AboutPanel(QWidget* parent) : QDialog(parent) {
     column->addWidget(icon, 0, Qt::AlignHCenter);
     column->addWidget(name, 0, Qt::AlignHCenter);
     column->addWidget(version, 0, Qt::AlignHCenter);
-    QFont bold = font(); // as desktops set a title
+    QFont bold = font(); // as desktops draw a title
     bold.setBold(true);
     const QFontMetrics title(bold);
     column->addStrut(title.horizontalAdvance(windowTitle()) + frameButtons * title.height() -

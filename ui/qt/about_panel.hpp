@@ -4,7 +4,7 @@
 
 namespace kelmar {
 
-/// The program's name and version, in a small window of its own that is in nobody's way.
+/// The program's name and version, in a small window that is not modal.
 class AboutPanel : public QDialog {
 public:
     explicit AboutPanel(QWidget* parent);

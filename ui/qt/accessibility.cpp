@@ -18,7 +18,7 @@ constexpr const char* modalProperty = "kelmarAccessiblyModal";
 constexpr const char* hiddenProperty = "kelmarAccessiblyHidden";
 constexpr const char* expandedProperty = "kelmarAccessiblyExpanded";
 
-/// A widget in another role than its class has.
+/// A widget with another role than that of its class.
 class InRole : public QAccessibleWidget {
 public:
     InRole(QWidget& widget, QAccessible::Role role) : QAccessibleWidget(&widget, role) {}
@@ -52,8 +52,8 @@ private:
     }
 };
 
-/// A button whose one action is a click. The toolkit's own interface changes a check box itself,
-/// and presses another button only after a while, when it may stand for something else.
+/// A button whose one action is a click. The toolkit's own interface would change a check box
+/// itself, and press other buttons only after a delay, when they may have another meaning.
 class ButtonInRole : public InRole {
 public:
     using InRole::InRole;
@@ -85,8 +85,8 @@ public:
             InRole::doAction(name);
             return;
         }
-        // Once the screen reader has its answer, which the click on Quit would keep from it; and
-        // only on what the button stands for now.
+        // Queued, so that the screen reader gets its answer first: a click on Quit would keep it
+        // from it. Skipped if the button's meaning has changed meanwhile.
         QMetaObject::invokeMethod(
             &button(),
             [&button = button(), text = button().text(), on = button().isChecked()] {

@@ -5,26 +5,24 @@
 
 namespace kelmar {
 
-/// Lets screen readers see widgets as the functions below say. Called once, before the first
+/// Installs what the functions below need to reach screen readers. Call it once, before the first
 /// window.
 void installAccessibleRoles();
 
-/// A label in a role is still named by its text. A button in a role can be pressed (a checkable
-/// one: toggled), which is a click like any other and asks for what a click asks for; its place is
-/// what it draws, without the room for its focus ring. Names and descriptions are made as harmless
-/// as a text that is drawn.
+/// Gives `widget` a role. A label keeps its text as its name. A button can be pressed (a checkable
+/// one: toggled), with the same effect as a click; its bounds exclude the room for its focus ring.
+/// Names and descriptions are made harmless like drawn text.
 void setAccessibleRole(QWidget& widget, QAccessible::Role role);
 
-/// The rest of what `widget`, which has a role, is to a screen reader:
-/// People have to answer before they can do anything else.
+/// These take a `widget` that has a role. Marks it as modal.
 void setAccessiblyModal(QWidget& widget);
-/// It is not there; what it says is said elsewhere.
+/// Hides it; its content is announced elsewhere.
 void hideFromScreenReaders(QWidget& widget);
-/// It unfolds something, and has done so or not; a change is told.
+/// Marks it as expandable, with its state; notifies screen readers of a change.
 void setAccessiblyExpanded(QWidget& widget, bool expanded);
 
-/// Lets a screen reader say `text` now, whatever has the focus: `widget`, which shows nothing and
-/// has the role of a notification, appears to it with that name.
+/// Makes a screen reader announce `text` now, whatever has the focus. `widget` must have the role
+/// of a notification and show nothing; it gets that name.
 void announce(QWidget& widget, const QString& text);
 
 } // namespace kelmar

@@ -30,7 +30,7 @@ void AppDelegate::applicationDidFinishLaunching() {
         actions, [this](MenuAction action) { perform(action); },
         [this] { return windowShouldClose(); });
     window_->page().render(view_.page());
-    // Direct: the answer is wanted before this signal returns.
+    // Direct: the signal's sender needs the answer before it returns.
     connect(
         qApp, &QGuiApplication::commitDataRequest, this,
         [this](QSessionManager& manager) { endOfSession(manager); }, Qt::DirectConnection);
@@ -77,7 +77,7 @@ void AppDelegate::perform(MenuAction action) {
 }
 
 void AppDelegate::renderSoon() {
-    // What changes is seen only after this call; and many changes make one picture.
+    // The change is visible only after this call returns, and many changes need only one render.
     if (!render_.isActive()) {
         render_.start(0, this);
     }

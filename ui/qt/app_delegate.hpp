@@ -15,7 +15,7 @@ namespace kelmar {
 
 class AboutPanel;
 
-/// The application: one model, one window, and the rule that nothing ends while a run is going on.
+/// The application: one model and one window. It refuses to end while a run is going on.
 class AppDelegate : public QObject {
 public:
     /// Starts nothing yet.
@@ -28,7 +28,7 @@ public:
     /// Opens the window and starts the first scan.
     void applicationDidFinishLaunching();
 
-    /// Whether the application may end now; it says nothing when it may not.
+    /// Returns true if the application may end now; shows nothing if it may not.
     [[nodiscard]] bool applicationShouldTerminate() const { return !model->isWorking(); }
 
     [[nodiscard]] bool windowShouldClose() const { return !model->isWorking(); }
@@ -52,7 +52,7 @@ private:
     UninstallerView view_;
     std::unique_ptr<MainWindow> window_;
     QPointer<AboutPanel> about_;
-    QBasicTimer render_; ///< runs while the page is out of date: fires in the next turn
+    QBasicTimer render_; ///< active while the page is out of date: fires in the next iteration
 };
 
 } // namespace kelmar

@@ -8,7 +8,7 @@ namespace kelmar {
 
 class TextLabel;
 
-/// A spinner beside the words that say what it stands for.
+/// A spinner beside its text.
 class BusyRow : public QWidget {
 public:
     explicit BusyRow(QWidget* parent = nullptr);

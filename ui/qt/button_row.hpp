@@ -13,15 +13,15 @@ namespace kelmar {
 /// The buttons of the footer or of an alert, in a row.
 class ButtonRow : public QWidget {
 public:
-    /// In a row, or one below the other where they don't fit into `room`.
+    /// Places the buttons in a row, or one below the other if they don't fit into `room`.
     ButtonRow(std::function<void(Action)> perform, int room, QWidget* parent = nullptr);
 
     void render(const std::vector<Button>& buttons);
 
-    /// The enabled button that `key` belongs to; null without one.
+    /// The enabled button for `key`; null if there is none.
     [[nodiscard]] PushButton* pressedBy(ButtonKey key) const;
 
-    /// The button that leads out, else the last one.
+    /// The button that cancels, else the last one.
     [[nodiscard]] PushButton* safest() const;
 
 private:

@@ -8,7 +8,7 @@ namespace kelmar {
 
 class NoteRow;
 
-/// A notice above the content, on a ground of its own colour.
+/// A notice above the content, on a tinted background.
 class CalloutBox : public QWidget {
 public:
     explicit CalloutBox(QWidget* parent = nullptr);

@@ -23,7 +23,7 @@ void paintCard(QWidget& widget, const QColor& ground, const QColor& edge) {
 }
 
 void paintCard(QWidget& widget, const QRectF& place, const QColor& ground, const QColor& edge) {
-    constexpr qreal middle = Look::hairline / 2.0; // of the line around the card
+    constexpr qreal middle = Look::hairline / 2.0; // centre of the line around the card
     QPainter painter(&widget);
     painter.setRenderHint(QPainter::Antialiasing);
     painter.setBrush(ground);

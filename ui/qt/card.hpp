@@ -22,10 +22,10 @@ private:
 /// Draws a card at `place` of `widget` in these colours.
 void paintCard(QWidget& widget, const QRectF& place, const QColor& ground, const QColor& edge);
 
-/// Fills `widget` as a card.
+/// Draws a card that fills `widget`.
 void paintCard(QWidget& widget, const QColor& ground, const QColor& edge);
 
-/// A line across, from `indent` units after the leading edge on.
+/// A horizontal line that starts `indent` units after the leading edge.
 class Hairline : public QFrame {
 public:
     explicit Hairline(int indent = 0, QWidget* parent = nullptr);
@@ -40,8 +40,7 @@ private:
 /// Where the texts of a card's rows begin, after the column of their icons.
 int rowTextIndent();
 
-/// The layout of a row of a card, from top to bottom, with a line above the row unless it is the
-/// first one.
+/// The vertical layout of a card's row, with a line above the row unless it is the first one.
 QVBoxLayout& layOutRow(QWidget& row, bool first, int indent);
 
 } // namespace kelmar

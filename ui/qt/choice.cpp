@@ -7,7 +7,7 @@
 namespace kelmar {
 
 Choice::Choice(QWidget* parent) : QCheckBox(parent) {
-    // The toolkit's own role lets a screen reader change the state without a click.
+    // With the toolkit's own role, a screen reader could change the state without a click.
     setAccessibleRole(*this, QAccessible::CheckBox);
 }
 

@@ -13,7 +13,8 @@ constexpr double forControls = Look::controlContrast;
 } // namespace
 
 Colours::Colours(const QPalette& palette) {
-    // Whatever is drawn asks, and nearly all of it has one palette.
+    // A cache of one palette: every paint needs the colours, and nearly all widgets share a
+    // palette.
     static qint64 key = 0;
     static Colours latest;
     if (palette.cacheKey() != key) {
@@ -29,7 +30,7 @@ void Colours::compute(const QPalette& palette) {
     const QColor white = Qt::white;
     dark = contrast(page, white) > contrast(text, white);
     const QColor base = palette.color(QPalette::Active, QPalette::Base);
-    // Dark palettes have fields darker than the page; a card lies above it.
+    // In dark palettes, fields are darker than the page; a card must be lighter.
     card = dark ? mixed(page, white, 0.05) : base;
     control = dark ? mixed(page, white, 0.12) : base;
     controlPressed = mixed(control, text, 0.12);
@@ -41,7 +42,8 @@ void Colours::compute(const QPalette& palette) {
     const QColor highlight = palette.color(QPalette::Active, QPalette::Highlight);
     onAccent = white;
     accent = standingOut(highlight, Qt::black, forText, {onAccent});
-    // A tick is no text, and on a dark card a box that is dark enough for text would sink in.
+    // A tick needs less contrast than text, and on a dark card a box dark enough for text would be
+    // hard to see.
     switchedOn = standingOut(accent, white, forControls, {page, card});
     focusRing = standingOut(accent, dark ? white : QColor(Qt::black), forControls, {page, card});
     green = standingOut(dark ? QColor(0x5c, 0xc9, 0x74) : QColor(0x24, 0x87, 0x3f), text,
@@ -54,7 +56,8 @@ void Colours::compute(const QPalette& palette) {
 }
 
 QColor Colours::tinted(const QColor& tint) const {
-    // Of the full hue: what is dark enough for a symbol makes mud of a light ground.
+    // At full saturation: a colour dark enough for a symbol would make a light background look
+    // dirty.
     return mixed(card, QColor::fromHsv(tint.hue(), 255, 255), Look::tintedGround);
 }
 

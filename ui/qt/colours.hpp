@@ -8,8 +8,8 @@
 
 namespace kelmar {
 
-/// The window's colours, made from the platform's palette, which decides between light and dark. On
-/// the main thread only.
+/// The window's colours, computed from the platform's palette, which decides between light and
+/// dark. Main thread only.
 struct Colours {
     explicit Colours(const QPalette& palette);
 
@@ -20,12 +20,12 @@ struct Colours {
     QColor page;
     QColor card;
     QColor hairline;
-    QColor outline; ///< around a control that nothing else shows the place of; the switch when off
-    QColor scrollBar;      ///< the handle
+    QColor outline;        ///< outline of a control that has no other edge; the switch when off
+    QColor scrollBar;      ///< the scroll bar's handle
     QColor control;        ///< the face of a button
     QColor controlPressed; ///< the same while it is held down
     QColor accent;         ///< the default button
-    QColor onAccent;       ///< text on `accent`, readable; what is drawn on `switchedOn`
+    QColor onAccent;       ///< text on `accent`, readable; drawings on `switchedOn`
     QColor switchedOn;     ///< a box that is ticked, a switch that is on
     QColor focusRing;
     QColor green;
@@ -35,7 +35,7 @@ struct Colours {
 
     [[nodiscard]] QColor of(Tint tint) const;
 
-    /// The ground of a card that is tinted.
+    /// The background of a tinted card.
     [[nodiscard]] QColor tinted(const QColor& tint) const;
 
 private:
@@ -43,8 +43,8 @@ private:
     void compute(const QPalette& palette);
 };
 
-/// Whether a control is to be drawn as one that can't be pressed. What only lies below a question
-/// is not: the question dims all of it.
+/// Returns true if a control must be drawn as disabled. A control behind a question is not: the
+/// question dims the whole page.
 inline bool isGreyed(const QWidget& control) {
     return control.testAttribute(Qt::WA_ForceDisabled);
 }

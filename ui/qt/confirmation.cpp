@@ -18,7 +18,7 @@ namespace {
 
 constexpr int inside = Look::alertWidth - 2 * Look::alertPadding;
 
-/// A card that hangs from the top of the page.
+/// A card attached to the top of the page.
 class Sheet : public Card {
 protected:
     void paintEvent(QPaintEvent* /*event*/) override {
@@ -73,8 +73,8 @@ void ConfirmationOverlay::render(const Confirmation& confirmation) {
     message_->showText(confirmation.message);
     setAccessibleName(QString::fromStdString(confirmation.title));
     setAccessibleDescription(QString::fromStdString(confirmation.message));
-    // The page names the button that goes on first; its place is the trailing one, as in the
-    // footer.
+    // The page lists the button that continues first, but it is drawn last, at the trailing edge,
+    // as in the footer.
     buttons_->render({confirmation.buttons.rbegin(), confirmation.buttons.rend()});
     if (isHidden()) {
         focus_ = window()->focusWidget();

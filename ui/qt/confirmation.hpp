@@ -11,12 +11,11 @@ namespace kelmar {
 class ButtonRow;
 class TextLabel;
 
-/// A question laid over the page, which stays in sight and out of reach below it. The window
-/// itself can still be closed. The focus comes to the button that leads out, and goes back to
-/// where it was.
+/// A question over the page, which stays visible but disabled. The window itself can still be
+/// closed. Focuses the button that cancels, and restores the focus afterwards.
 class ConfirmationOverlay : public QWidget {
 public:
-    /// Covers `page`, which is enabled again when the question goes.
+    /// Covers `page` and disables it until the question is gone.
     ConfirmationOverlay(QWidget& page, std::function<void(Action)> perform, QWidget* parent);
 
     void render(const Confirmation& confirmation);
@@ -29,7 +28,7 @@ protected:
 
 private:
     QWidget& page_;
-    QPointer<QWidget> focus_; ///< where the focus was
+    QPointer<QWidget> focus_; ///< the previous focus
     TextLabel* title_;
     TextLabel* message_;
     ButtonRow* buttons_;

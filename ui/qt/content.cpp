@@ -25,11 +25,10 @@ namespace kelmar {
 
 namespace {
 
-/// Around a block; the column's own margins leave out the room for focus rings.
+/// Around a block; the column's own margins exclude the room for focus rings.
 constexpr QMargins blockMargins(Look::focusRoom, Look::sectionGap, 0, 0);
 
-/// What scrolls fades out below it towards one edge of the page's content, and never touches the
-/// line there.
+/// Fades out the scrolled content at one edge, so that it never touches the line there.
 class Veil : public QWidget {
 public:
     Veil(bool above, QWidget* parent) : QWidget(parent), above_(above) {
@@ -64,7 +63,7 @@ ContentWidget::ContentWidget(WindowActions actions, QWidget* parent)
     setWidgetResizable(true);
     setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     setVerticalScrollBar(new SlimScrollBar);
-    // What has been unfolded has its place once the range has grown by it.
+    // Unfolded content has its final place only once the range has grown.
     connect(verticalScrollBar(), &QScrollBar::rangeChanged, this, [this] {
         if (std::exchange(reveals_, false)) {
             revealData();
@@ -79,36 +78,36 @@ ContentWidget::ContentWidget(WindowActions actions, QWidget* parent)
                                 Look::sectionGap);
     column_->setSpacing(0);
     for (std::size_t place = 0; place < places; ++place) {
-        // A place of its own for every block, so that a late one comes between the right two.
+        // One layout for each block, so that a block made later comes at its place in the order.
         column_->addLayout(new QVBoxLayout);
     }
     around_.fill(blockMargins);
-    // Its control's room for the focus ring hangs over, so that the rest stands in line.
+    // The room for its control's focus ring reaches into the margin, so that the rest is aligned.
     around(Place::details).setLeft(0);
     around(Place::text) = margins(Look::noticeMargin, Look::sectionGap);
     column_->addStretch(1);
     setWidget(inside);
     viewport()->setAutoFillBackground(false);
     inside->setAutoFillBackground(false);
-    // The toolkit scrolls only to what the Tab key reaches from within the column.
+    // The toolkit scrolls only if the Tab key moves the focus inside the column.
     connect(qApp, &QApplication::focusChanged, this,
             [this](QWidget* /*before*/, QWidget* now) { bringIntoSight(now); });
 }
 
 ContentWidget::~ContentWidget() {
-    // The focus moves while the blocks are taken down.
+    // Destroying the blocks moves the focus.
     disconnect(qApp, nullptr, this, nullptr);
 }
 
 void ContentWidget::bringIntoSight(QWidget* focused) {
-    // Nothing moves away under a button of the mouse that is held down.
+    // Do not scroll while a mouse button is held down: its target would move away.
     if (widget()->isAncestorOf(focused) && QGuiApplication::mouseButtons() == Qt::NoButton) {
         ensureWidgetVisible(focused, 0, Look::sectionGap);
     }
 }
 
 void ContentWidget::resizeEvent(QResizeEvent* event) {
-    // The scroll bar takes its room from the margin, so that the content stays where it is.
+    // The scroll bar takes its width from the margin, so that the content does not move.
     const int bar = width() - viewport()->width();
     QMargins margins = column_->contentsMargins();
     margins.setRight(std::max(0, Look::pageMargin - bar));
@@ -148,7 +147,7 @@ void ContentWidget::revealData() {
     if (block == nullptr) {
         return;
     }
-    // All of it if there is room, else from its heading on.
+    // The whole block if it fits, else its top.
     const int top = block->y() - Look::sectionGap;
     const int bottom = block->y() + block->height() + Look::sectionGap - viewport()->height();
     QScrollBar& bar = *verticalScrollBar();
@@ -156,7 +155,7 @@ void ContentWidget::revealData() {
 }
 
 void ContentWidget::keepReadingOrder(Place made) {
-    // Screen readers go through the blocks in their stacking order, and what is made is on top.
+    // Screen readers follow the stacking order, and new widgets are on top.
     for (auto later = static_cast<std::size_t>(made) + 1; later < places; ++later) {
         if (QWidget* const widget = blocks_.at(later)) {
             widget->raise();
@@ -173,12 +172,12 @@ void ContentWidget::render(const Content& content) {
         if (QWidget* const widget = blocks_.at(place)) {
             widget->setVisible(used);
         }
-        // The margins of a place take room whether anything is shown there or not.
+        // No margins for a place that shows nothing: they would take room.
         layoutOf(static_cast<Place>(place))
             .setContentsMargins(used ? around_.at(place) : QMargins());
     }
-    // What is left of the page goes to the record of a run while it is unfolded, and to what stands
-    // alone, in the middle of it.
+    // The remaining height goes to the log while it is unfolded, or to a lone text, which it
+    // centres.
     for (std::size_t place = 0; place < places; ++place) {
         column_->setStretch(static_cast<int>(place), fills_ == static_cast<Place>(place) ? 1 : 0);
     }
@@ -209,7 +208,7 @@ void ContentWidget::renderBlocks(const ReadyContent& content) {
         block<CalloutBox>(Place::notice).render(*content.notice);
     }
     block<FoundSectionWidget>(Place::found).render(content.found);
-    // A heading with nothing under it keeps no distance of its own.
+    // A heading without rows needs no gap of its own.
     around(Place::data).setTop(content.found.rows.empty() ? Look::lineGap : Look::sectionGap);
     const bool unfolded = content.data && !content.data->lists.empty();
     reveals_ = unfolded && !std::exchange(unfolded_, unfolded);

@@ -13,9 +13,9 @@ class QVBoxLayout;
 
 namespace kelmar {
 
-/// The content of the page between its header and its footer, in one column that scrolls. Every
-/// block is made when it is first needed, then kept, shown and hidden: a block that two phases
-/// share, such as the record of a run, lives on from one to the other.
+/// The content of the page between header and footer, in one scrolling column. Every block is
+/// created on first use, then kept, shown and hidden: a block that two phases share, such as the
+/// log of a run, survives the change of phase.
 class ContentWidget : public QScrollArea {
 public:
     explicit ContentWidget(WindowActions actions, QWidget* parent = nullptr);
@@ -50,7 +50,8 @@ private:
     void renderBlocks(const FinishedContent& content);
     void renderDetails(const Details& details);
 
-    /// The block at `place`, made from `parts` if it is not there yet; it will be shown.
+    /// Returns the block at `place`, creates it from `parts` if it does not exist, and marks it as
+    /// shown.
     template <class Block, class... Parts>
     Block& block(Place place, const Parts&... parts);
 
@@ -69,13 +70,13 @@ private:
     QVBoxLayout* column_;
     std::array<QWidget*, places> blocks_{};
     std::array<QMargins, places> around_; ///< the blocks that are shown
-    std::set<Place> used_;                ///< by the page that is being rendered
-    std::optional<Place> fills_; ///< the block of that page that takes all the height that is left
+    std::set<Place> used_;                ///< in the page being rendered
+    std::optional<Place> fills_; ///< the block of that page that takes the remaining height
     bool unfolded_ = false;      ///< the folders are listed
-    bool reveals_ = false;       ///< they have just been unfolded
-    QWidget* above_;             ///< veils of the content's edges
+    bool reveals_ = false;       ///< the folders were just listed
+    QWidget* above_;             ///< fades of the content's edges
     QWidget* below_;
-    std::size_t kind_; ///< of the content that is shown
+    std::size_t kind_; ///< variant index of the shown content
 };
 
 } // namespace kelmar

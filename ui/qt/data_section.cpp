@@ -29,13 +29,13 @@ DataSectionWidget::DataSectionWidget(WindowActions actions, QWidget* parent)
     choice->addWidget(total_);
     choice->addWidget(switch_);
     auto* const inside = new QVBoxLayout;
-    // A control's own room for its focus ring counts as part of the margin.
+    // The room for a control's focus ring counts as part of the margin.
     constexpr int padding = Look::cardPadding - Look::focusRoom;
     inside->setContentsMargins(margins(padding));
     inside->setSpacing(Look::lineGap);
     inside->addLayout(choice);
     auto* const under = new QHBoxLayout;
-    // The column of the switch stays free.
+    // Leaves the column of the switch free.
     constexpr int column = Look::columnGap + Look::switchWidth + 2 * Look::focusRoom;
     under->setContentsMargins(Look::focusRoom, 0, column, 0);
     under->addWidget(line_);

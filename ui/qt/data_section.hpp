@@ -10,7 +10,7 @@ namespace kelmar {
 class PushButton;
 class ToggleSwitch;
 
-/// The choice of data: one switch for all, and the single folders below it.
+/// The choice of data: one switch for all, and the folders below it.
 class DataSectionWidget : public Section {
 public:
     explicit DataSectionWidget(WindowActions actions, QWidget* parent = nullptr);

@@ -37,7 +37,7 @@ void DetailsWidget::render(const Details& details) {
     toggle_->render(details.toggle, details.shown);
     log_->setAccessibleName(QString::fromStdString(details.toggle.text));
     if (details.shown) {
-        log_->render(details.log); // folded, it keeps what is read and selected in it
+        log_->render(details.log); // while folded, it keeps position and selection
     }
     frame_->setVisible(details.shown);
 }

@@ -10,7 +10,7 @@ namespace kelmar {
 class Disclosure;
 class LogView;
 
-/// The record of a run behind a control that unfolds it.
+/// The log of a run behind a control that unfolds it.
 class DetailsWidget : public QWidget {
 public:
     explicit DetailsWidget(const std::function<void(Action)>& perform, QWidget* parent = nullptr);

@@ -19,7 +19,7 @@ int chevronSide() {
     return grown(Look::disclosureChevron);
 }
 
-/// What is drawn of the chevron begins where the focus ring's room ends.
+/// The left edge of the drawn chevron, without the room for the focus ring.
 int chevronLeft() {
     return Look::focusRoom - grown(Look::disclosureBearing);
 }

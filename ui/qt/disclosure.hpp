@@ -6,7 +6,7 @@
 
 namespace kelmar {
 
-/// A text with a chevron that unfolds what is below it.
+/// A text with a chevron that unfolds the content below it.
 class Disclosure : public QPushButton {
 public:
     explicit Disclosure(QWidget* parent = nullptr);

@@ -23,8 +23,8 @@ bool QtDispatcher::event(QEvent* event) {
     if (event->type() != QEvent::User) {
         return QObject::event(event);
     }
-    // Posted events are delivered until there are none, before anything is drawn. A timer comes
-    // once a turn, so that a flood of jobs leaves the window its share.
+    // Qt delivers all posted events before it draws. A timer fires once per iteration, so many jobs
+    // cannot starve the window.
     turn_.start(0, this);
     return true;
 }
@@ -43,7 +43,7 @@ void QtDispatcher::onThread(const char* name, void (*prepare)(), Job job) {
             job();
         }).detach();
     } catch (const std::system_error&) {
-        // The system starts no thread. The window stands still while the job runs, but it runs.
+        // If no thread can be started, the job runs on the main thread and blocks the window.
         toMain(std::move(job));
     }
 }
@@ -55,7 +55,7 @@ void QtDispatcher::userInitiated(Job job) {
 
 void QtDispatcher::utility(Job job) {
     const auto yieldToOthers = [] {
-        // setpriority(2): on Linux the nice value is a thread's own, and its children inherit it.
+        // setpriority(2): on Linux each thread has its own nice value, which its children inherit.
         constexpr int nicer = 10;
         const auto self = static_cast<id_t>(::gettid());
         ::setpriority(PRIO_PROCESS, self, ::getpriority(PRIO_PROCESS, self) + nicer);

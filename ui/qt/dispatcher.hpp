@@ -8,8 +8,8 @@
 
 namespace kelmar {
 
-/// Jobs on the event loop of the application and on threads of their own. Made on the main thread,
-/// and there as long as any job.
+/// Runs jobs on the application's event loop and on threads. Construct it on the main thread; it
+/// must outlive all jobs.
 class QtDispatcher : public Dispatcher, private QObject {
 public:
     QtDispatcher() = default;
@@ -17,22 +17,22 @@ public:
     QtDispatcher& operator=(const QtDispatcher&) = delete;
     ~QtDispatcher() override = default;
 
-    /// Jobs run in the order in which they were posted, but no more at a time than leave the event
-    /// loop able to draw and to answer.
+    /// Runs jobs in the order of posting, but only so many at a time that the event loop can draw
+    /// and handle input in between.
     void toMain(Job job) override;
     void userInitiated(Job job) override;
     void utility(Job job) override;
 
 private:
-    /// Runs `job` on a thread of its own, after `prepare`; on the main thread, later and without
-    /// `prepare`, where the system starts none.
+    /// Runs `job` on a new thread, after `prepare`. If no thread can be started, posts it to the
+    /// main thread, without `prepare`.
     void onThread(const char* name, void (*prepare)(), Job job);
 
     bool event(QEvent* event) override;
     void timerEvent(QTimerEvent* event) override;
 
     MainThreadJobs jobs_;
-    QBasicTimer turn_; ///< runs while jobs wait: fires once a turn
+    QBasicTimer turn_; ///< active while jobs wait: fires once per iteration
 };
 
 } // namespace kelmar

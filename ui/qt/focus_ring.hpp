@@ -8,11 +8,11 @@
 
 namespace kelmar {
 
-/// Whether `widget` is to show that it has the focus: once the keyboard has been used to move it.
-/// Who works with the mouse needs no ring.
+/// Returns true if `widget` must show that it has the focus: once the keyboard has moved it. Mouse
+/// users need no ring.
 bool showsFocus(const QWidget& widget);
 
-/// The ring around the control that has the keyboard's focus.
+/// Draws the ring of the control that has the keyboard's focus.
 void paintFocusRing(QPainter& painter, const QRectF& around, qreal radius, const Colours& colours);
 
 } // namespace kelmar

@@ -17,7 +17,7 @@ namespace kelmar {
 
 namespace {
 
-/// `text` in line with the boxes, whose room for the focus ring is part of the margin.
+/// Aligns `text` with the boxes: the room for their focus ring is part of the margin.
 QLayout* indented(QWidget* text) {
     auto* const row = new QHBoxLayout;
     row->setContentsMargins(Look::focusRoom, 0, 0, 0);
@@ -46,7 +46,7 @@ void FolderRowWidget::render(const FolderRow& row) {
     const QString name = QString::fromStdString(harmlessText(row.name));
     if (name != check_->text()) {
         check_->setText(name);
-        check_->setShortcut({}); // an ampersand of a name marks no key
+        check_->setShortcut({}); // an ampersand in a name must not create a shortcut
     }
     check_->setChecked(row.checked);
     check_->setAccessibleDescription(QString::fromStdString(row.summary));
@@ -79,7 +79,7 @@ FolderListWidget::FolderListWidget(SelectFolder select, QWidget* parent)
     inside->setContentsMargins(Look::cardPadding - Look::focusRoom, Look::partGap,
                                Look::cardPadding, Look::partGap);
     inside->setSpacing(Look::lineGap);
-    // The boxes' room for their focus rings hangs over, so that they stand below the heading.
+    // The room for the boxes' focus rings reaches into the margin, to align them with the heading.
     folders_->setSpacing(0);
     inside->addLayout(indented(heading_));
     inside->addLayout(folders_);
@@ -105,7 +105,7 @@ void FolderListWidget::setNameWidth(int width) {
 void FolderListWidget::render(const FolderList& list) {
     heading_->showText(list.heading);
     rows_.render(list.rows, [this](std::size_t) { return new FolderRowWidget(select_); });
-    others_->raise(); // last for screen readers too, which go by the stacking order
+    others_->raise(); // last for screen readers as well, which follow the stacking order
     others_->setVisible(list.otherItems.has_value());
     others_->showText(list.otherItems.value_or(""));
 }

@@ -15,7 +15,7 @@ class CheckBox;
 class SizeLabel;
 class TextLabel;
 
-/// Asks for one folder to be chosen or left out.
+/// Requests that one folder be selected or not.
 using SelectFolder = std::function<void(const std::string& path, bool selected)>;
 
 class FolderRowWidget : public QWidget {
@@ -24,7 +24,7 @@ public:
 
     void render(const FolderRow& row);
 
-    /// What its box and name need, and what they get: the summaries stand in one column.
+    /// The width that its box and name need, and the width that they get: summaries form a column.
     [[nodiscard]] int nameWidth() const;
     void setNameWidth(int width);
 
@@ -42,7 +42,7 @@ public:
 
     void render(const FolderList& list);
 
-    /// The widest of its rows, and what all of them get.
+    /// The widest of its rows, and the width for all of them.
     [[nodiscard]] int nameWidth() const;
     void setNameWidth(int width);
 

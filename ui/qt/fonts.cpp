@@ -27,7 +27,7 @@ QFont fontOf(TextStyle style) {
     QFont font = look.face == TextFace::monospaced
                      ? QFontDatabase::systemFont(QFontDatabase::FixedFont)
                      : QGuiApplication::font();
-    // What is set does not follow the desktop's font when that changes, so only what differs is.
+    // Properties that are set no longer follow the desktop's font, so set only those that differ.
     if (look.points != bodyPoints) {
         font = scaled(font, static_cast<double>(look.points) / bodyPoints);
     }

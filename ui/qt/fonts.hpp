@@ -12,8 +12,8 @@ QFont fontOf(TextStyle style);
 /// The height of a line of text in that font.
 int lineHeight(TextStyle style);
 
-/// `length` of something that stands beside text, as much longer as the desktop's text is larger
-/// than the look's; never shorter.
+/// Scales `length`, of something beside text, by the ratio of the desktop's text size to the
+/// look's; never shrinks it.
 int grown(int length);
 
 } // namespace kelmar

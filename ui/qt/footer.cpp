@@ -25,7 +25,7 @@ FooterWidget::FooterWidget(const std::function<void(Action)>& perform, QWidget* 
     row_->setContentsMargins(Look::pageMargin, Look::footerPadding,
                              Look::pageMargin - Look::focusRoom, Look::footerPadding);
     row_->setSpacing(Look::sectionGap);
-    // In the middle by stretches: what is aligned gets no more height than it has in one line.
+    // Centred by stretches: an aligned item gets only the height of its one-line form.
     auto* const leading = new QVBoxLayout;
     leading->setSpacing(0);
     noted_->setSpacing(Look::lineGap);
@@ -42,7 +42,7 @@ void FooterWidget::render(const Footer& footer) {
     notes_.render(footer.notes, [](std::size_t) {
         return new NoteRow(Look::noteIcons, TextStyle::callout, TextTone::secondary);
     });
-    buttons_->raise(); // last for screen readers too, which go by the stacking order
+    buttons_->raise(); // last for screen readers as well, which follow the stacking order
     busy_->setVisible(footer.busy.has_value());
     busy_->render(footer.busy.value_or(Busy{}));
     buttons_->render(footer.buttons);

@@ -15,8 +15,8 @@ namespace kelmar {
 class BusyRow;
 class ButtonRow;
 
-/// Notes or a spinner on the leading side, buttons on the trailing one; below them where the two do
-/// not fit side by side.
+/// Notes or a spinner at the leading side, buttons at the trailing side; buttons go below the rest
+/// if both do not fit side by side.
 class FooterWidget : public QWidget {
 public:
     explicit FooterWidget(const std::function<void(Action)>& perform, QWidget* parent = nullptr);
@@ -26,7 +26,7 @@ public:
     [[nodiscard]] ButtonRow& buttons() const { return *buttons_; }
 
 private:
-    /// Of everything beside one another, each note in one line.
+    /// The width of everything side by side, with each note on one line.
     [[nodiscard]] int neededWidth(const Footer& footer) const;
 
     QBoxLayout* row_;

@@ -32,7 +32,7 @@ void FoundRowWidget::render(const FoundRow& row) {
     if (const auto* const symbol = std::get_if<FoundRow::Symbol>(&row.icon)) {
         icon_->showSymbol(symbol->name, Tint::secondary, grown(Look::rowSymbol));
     } else {
-        // No desktop here knows the bundle's own icon; this is the product's.
+        // Linux desktops don't know the bundle's own icon; this is the product's.
         icon_->showPicture("kelmar-app");
     }
     title_->showText(row.title);

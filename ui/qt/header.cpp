@@ -29,7 +29,7 @@ HeaderWidget::HeaderWidget(QWidget* parent)
     texts->addStretch();
     row->addWidget(icon, 0, Qt::AlignVCenter);
     row->addLayout(texts, 1);
-    // Room for a subtitle of two lines, so that the page below does not move from phase to phase.
+    // Reserves two lines for the subtitle, so that the page below does not move between phases.
     setMinimumHeight(2 * Look::headerPadding + lineHeight(TextStyle::title) + Look::lineGap +
                      2 * lineHeight(TextStyle::body));
     setAccessibleRole(*title_, QAccessible::Heading);

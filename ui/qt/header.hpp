@@ -15,7 +15,7 @@ public:
 
     void render(const Header& header);
 
-    /// Screen readers say `text` at once.
+    /// Makes screen readers announce `text` now.
     void announce(const std::string& text);
 
 private:

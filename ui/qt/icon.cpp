@@ -12,8 +12,8 @@ namespace kelmar {
 
 namespace {
 
-constexpr int frame = 33;   ///< milliseconds between two pictures of a spinner
-constexpr int turn = 1'000; ///< milliseconds for all the way round
+constexpr int frame = 33;   ///< milliseconds per frame of a spinner
+constexpr int turn = 1'000; ///< milliseconds per revolution
 constexpr int spokes = 8;
 
 } // namespace
@@ -90,7 +90,7 @@ void IconLabel::paintEvent(QPaintEvent* /*event*/) {
 }
 
 void IconLabel::paintSpinner(QPainter& painter) const {
-    // By the clock and not by the tick: late pictures don't slow the turn down.
+    // From the clock, not by counting ticks: late frames don't slow the spinner down.
     const double position =
         timer_.isActive() ? static_cast<double>(turning_.elapsed() % turn) / turn * spokes : 0;
     painter.setRenderHint(QPainter::Antialiasing);

@@ -11,11 +11,11 @@ class QPainter;
 
 namespace kelmar {
 
-/// A symbol, a picture or a turning spinner. Says to a screen reader what it is told to say, and
-/// nothing if that is nothing. Its timer runs only while a spinner can be seen.
+/// A symbol, a picture or a spinner. If its accessible name is empty, the icon is decorative and
+/// hidden from screen readers. Its timer runs only while a spinner is visible.
 class IconLabel : public QLabel {
 public:
-    /// What is shown stands in the middle.
+    /// Centres its content.
     IconLabel(int width, int height, QWidget* parent = nullptr);
 
     explicit IconLabel(int side, QWidget* parent = nullptr) : IconLabel(side, side, parent) {}

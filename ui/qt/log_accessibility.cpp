@@ -10,8 +10,8 @@ namespace kelmar {
 
 namespace {
 
-/// The record as a text of many lines. The toolkit's own answers to what surrounds a place take a
-/// copy of the whole text each; these look at one line.
+/// The log as a text of many lines. The toolkit's default implementations copy the whole text to
+/// find what surrounds an offset; these look at one line.
 class AccessibleLog : public QAccessibleWidget, public QAccessibleTextInterface {
 public:
     explicit AccessibleLog(LogView& view)
@@ -124,7 +124,7 @@ private:
         return {};
     }
 
-    /// What `place` is in, within its line and the line feed after it.
+    /// The unit of text at `place`, within its line and the line feed after it.
     [[nodiscard]] Columns around(LogText::Place place,
                                  QAccessible::TextBoundaryType boundary) const {
         const QString line = (text().lineCount() == 0 ? QString() : text().line(place.line)) + '\n';

@@ -2,7 +2,7 @@
 
 namespace kelmar {
 
-/// Lets screen readers read and select the text of a `LogView`. Called once, before the first
+/// Lets screen readers read and select the text of a `LogView`. Call it once, before the first
 /// window.
 void installAccessibleLog();
 

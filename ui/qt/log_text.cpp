@@ -76,7 +76,7 @@ std::unique_ptr<QTextLayout> LogText::layout(std::size_t line) const {
 }
 
 std::uint32_t LogText::rowsOf(const QString& line) const {
-    // Most lines are short: laying each out would take the time of the whole record.
+    // Most lines fit into one row: laying out each would take most of the time.
     if (static_cast<double>(line.size()) * widest_ <= width_ && isAscii(line)) {
         return 1;
     }

@@ -13,11 +13,11 @@
 
 namespace kelmar {
 
-/// The lines of a record as they are laid out in rows of one height. Keeps no more of each line
-/// than where it ends: text and glyphs are made for the lines that are drawn.
+/// The layout of a log's lines in rows of equal height. Stores only where each line ends; text and
+/// glyphs are created for the lines that are drawn.
 class LogText {
 public:
-    /// A place in the text, before the character at `column` in UTF-16.
+    /// A position in the text, before the character at `column` in UTF-16.
     struct Place {
         std::size_t line = 0;
         int column = 0;
@@ -27,21 +27,21 @@ public:
 
     explicit LogText(const QFont& font);
 
-    /// Shows `log` from its beginning, or goes on with what it has become.
+    /// Shows `log` from its beginning, or continues if it is the shown log with new lines.
     void setLog(const LogLines& log);
 
-    /// Rows are that wide from now on; lays out anew what has been laid out.
+    /// Sets the width of rows, and lays out again the lines laid out so far.
     void setWidth(int width);
 
-    /// Lays out at most `lines` more.
+    /// Lays out at most `lines` more lines.
     void layOutMore(std::size_t lines);
 
-    /// Lines that are laid out, and whether those are all.
+    /// The number of lines laid out, and whether that is all of them.
     [[nodiscard]] std::size_t lineCount() const { return ends_.size(); }
 
     [[nodiscard]] bool isComplete() const { return ends_.size() == log_.size(); }
 
-    /// What `line` reads, and the line laid out in rows.
+    /// The text of `line`, and its layout in rows.
     [[nodiscard]] QString line(std::size_t line) const;
     [[nodiscard]] std::unique_ptr<QTextLayout> layout(std::size_t line) const;
 
@@ -49,10 +49,10 @@ public:
 
     [[nodiscard]] int rowCount() const { return static_cast<int>(firstRow(lineCount())); }
 
-    /// The first row of `line`, which may be the one after the last.
+    /// The first row of `line`; `line` may be one past the last.
     [[nodiscard]] std::uint32_t firstRow(std::size_t line) const;
 
-    /// The line that `row` is a part of; the last one beyond it. There are lines.
+    /// The line that contains `row`, or the last line for a later row. Needs at least one line.
     [[nodiscard]] std::size_t lineOfRow(int row) const;
 
     [[nodiscard]] int rowOf(Place place) const;
@@ -60,15 +60,15 @@ public:
 
     [[nodiscard]] Place end() const;
 
-    /// The text in between, lines separated by line feeds. `from` is not after `to`.
+    /// The text from `from` to `to`, lines separated by line feeds. `from` must not be after `to`.
     [[nodiscard]] QString text(Place from, Place to) const;
 
-    // A place as the number of the characters of UTF-16 before it, each line feed among them.
+    // Converts a position to a number of UTF-16 characters before it, including line feeds.
     [[nodiscard]] int offsetOf(Place place) const;
     [[nodiscard]] Place placeOf(int offset) const;
 
 private:
-    /// Where a line ends, counted from the beginning of the record.
+    /// Where a line ends, from the beginning of the log.
     struct End {
         std::uint32_t row;
         std::uint32_t offset; ///< after the line feed
@@ -79,7 +79,7 @@ private:
 
     QFont font_;
     int rowHeight_;
-    double widest_; ///< character of ASCII
+    double widest_; ///< width of the widest ASCII character
     int width_ = 1;
     LogLines log_;
     std::vector<End> ends_;

@@ -19,16 +19,16 @@ namespace kelmar {
 
 namespace {
 
-/// Lines that are laid out well within the 16 milliseconds of one picture.
+/// Lines that can be laid out well within one frame of 16 milliseconds.
 constexpr std::size_t portion = 400;
 
-constexpr int dragInterval = 40; ///< milliseconds between two rows that a drag scrolls by
+constexpr int dragInterval = 40; ///< milliseconds per row while a drag scrolls
 
 QFont logFont() {
     return fontOf(TextStyle::log);
 }
 
-/// The text that a screen reader hears of when lines come.
+/// Tells screen readers about the text of new lines.
 void tellInserted(LogView& view, LogText::Place from) {
     if (QAccessible::isActive()) {
         QAccessibleTextInsertEvent inserted(&view, view.text().offsetOf(from),
@@ -54,7 +54,7 @@ LogView::LogView(QWidget* parent) : QAbstractScrollArea(parent), text_(logFont()
         following_ = value == bar->maximum();
         viewport()->update();
     });
-    // The range changes with what is added, and with the height.
+    // The range changes with new lines and with the height.
     connect(bar, &QScrollBar::rangeChanged, this, [this, bar](int /*minimum*/, int maximum) {
         if (following_) {
             bar->setValue(maximum);
@@ -93,7 +93,7 @@ int LogView::rowsInSight() const {
 }
 
 void LogView::updateRange() {
-    // The value may fall while the range does: whether the end is read is decided before.
+    // Changing the range may lower the value: remember first whether the end is shown.
     const bool following = following_;
     QScrollBar& bar = *verticalScrollBar();
     bar.setPageStep(rowsInSight());
@@ -106,7 +106,7 @@ void LogView::updateRange() {
 
 void LogView::resizeEvent(QResizeEvent* event) {
     QAbstractScrollArea::resizeEvent(event);
-    // Rows are as wide with the scroll bar as without, so that they don't change when it comes.
+    // Reserve the scroll bar's width even without it, so that rows don't change when it appears.
     text_.setWidth(std::max(1, width() - 2 * Look::logPadding - Look::scrollBar));
     updateRange();
 }
@@ -291,7 +291,7 @@ void LogView::keyPressEvent(QKeyEvent* event) {
         copy();
     } else if (text_.lineCount() != 0 && movedBy(*event)) {
         if (!hasSelection() && !viewport()->rect().intersects(placeInViewport(cursor_))) {
-            // What is selected from here on begins in what is being read.
+            // A new selection starts at the top of the visible text.
             const Place top = text_.placeAt(bar.value(), 0);
             select(top, top);
         }
@@ -301,7 +301,7 @@ void LogView::keyPressEvent(QKeyEvent* event) {
     } else if (event->key() == Qt::Key_End) {
         bar.setValue(bar.maximum());
     } else {
-        QAbstractScrollArea::keyPressEvent(event); // scrolls, or leaves it to the page
+        QAbstractScrollArea::keyPressEvent(event); // scrolls, or passes the key to the page
     }
 }
 

@@ -10,10 +10,10 @@
 
 namespace kelmar {
 
-/// The record of a run, to be read, selected and copied. Lines are added below what is there:
-/// neither the place that is being read nor a selection moves. Whoever reads at the end stays at
-/// the end. A long record comes in portions, each within one picture of the screen, and takes
-/// little more memory than its text: only the rows in sight are drawn.
+/// Shows the log of a run, to read, select and copy. New lines are appended; neither the scroll
+/// position nor the selection moves, but a view at the end stays at the end. Lays out a long log in
+/// portions, each within one frame, and takes little more memory than its text: only visible rows
+/// are drawn.
 class LogView : public QAbstractScrollArea {
 public:
     using Place = LogText::Place;
@@ -24,10 +24,10 @@ public:
 
     [[nodiscard]] const LogText& text() const { return text_; }
 
-    /// Whether all of the record is in the view.
+    /// Returns true if the view has laid out the whole log.
     [[nodiscard]] bool isComplete() const { return text_.isComplete(); }
 
-    // What is selected lies between the anchor and the cursor, in whichever order.
+    // The selection lies between anchor and cursor, in either order.
     [[nodiscard]] Place anchor() const { return anchor_; }
 
     [[nodiscard]] Place cursor() const { return cursor_; }
@@ -38,17 +38,17 @@ public:
     void select(Place anchor, Place cursor);
     void selectAll();
 
-    /// Puts what is selected on the clipboard.
+    /// Copies the selection to the clipboard.
     void copy() const;
 
-    /// Scrolls until `place` is in sight, and no further.
+    /// Scrolls just far enough to make `place` visible.
     void bringIntoSight(Place place);
 
-    /// Where the character after `place` is drawn, in the viewport.
+    /// The rectangle of the character after `place`, in the viewport.
     [[nodiscard]] QRect placeInViewport(Place place) const;
     [[nodiscard]] Place placeAt(QPoint inViewport) const;
 
-    /// As low as is of use; its place gives it what height there is.
+    /// The smallest useful height; the layout adds what is left.
     [[nodiscard]] QSize sizeHint() const override { return {200, Look::logHeight}; }
 
     [[nodiscard]] QSize minimumSizeHint() const override { return {100, Look::logHeight}; }
@@ -75,9 +75,9 @@ private:
     LogText text_;
     Place anchor_;
     Place cursor_;
-    bool following_ = true; ///< the end is being read, and stays in sight
+    bool following_ = true; ///< the end is shown, and must stay visible
     QBasicTimer more_;
-    QBasicTimer dragging_; ///< runs while the mouse selects beyond the edge
+    QBasicTimer dragging_; ///< active while the mouse selects beyond the edge
 };
 
 } // namespace kelmar

@@ -50,12 +50,12 @@ void MainWindow::open() {
     const QRect room = screen()->availableGeometry();
     move(room.x() + (room.width() - contentSize.width()) / 2,
          room.y() + (room.height() - contentSize.height()) / 2);
-    // Nowhere in particular until a key moves it, instead of on the first button that there is.
+    // No button gets the focus until a key moves it there.
     page_->setFocus();
     show();
     raise();
     activateWindow();
-    // Desktops show it in other places than the window, which need not wait for it.
+    // Desktops show it elsewhere than in the window, so opening need not wait for it.
     afterwards_.start(0, this);
 }
 

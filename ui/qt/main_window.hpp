@@ -14,13 +14,13 @@ class PageWidget;
 /// The one window: 600 by 620, with the menu bar and the page in it.
 class MainWindow : public QMainWindow {
 public:
-    /// `shouldClose` is asked before the window closes, whoever wants it to.
+    /// Calls `shouldClose` before the window closes, whatever the reason.
     MainWindow(const WindowActions& actions, const std::function<void(MenuAction)>& menu,
                std::function<bool()> shouldClose);
 
     [[nodiscard]] PageWidget& page() const { return *page_; }
 
-    /// Shows the window in the middle of the screen and asks for the keyboard.
+    /// Shows the window in the middle of the screen and requests the keyboard's focus.
     void open();
 
 protected:
@@ -30,7 +30,7 @@ protected:
 private:
     std::function<bool()> shouldClose_;
     PageWidget* page_;
-    QBasicTimer afterwards_; ///< for what need not be there when the window opens
+    QBasicTimer afterwards_; ///< for work that can wait until the window has opened
 };
 
 } // namespace kelmar

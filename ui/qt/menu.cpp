@@ -10,22 +10,23 @@ namespace kelmar {
 
 namespace {
 
-/// The window's text that has the focus; its selection is what can be copied.
+/// The log view that has the focus; its selection is what can be copied.
 LogView* focusedText() {
     return dynamic_cast<LogView*>(QApplication::focusWidget());
 }
 
-/// The text of the page that has the focus, where that is not one of many lines.
+/// The selectable label of the page that has the focus.
 SelectableText* focusedLabel() {
     return dynamic_cast<SelectableText*>(QApplication::focusWidget());
 }
 
-/// Other programs' windows are theirs here, and a desktop brings a hidden one back itself.
+/// A Linux program has no control over other programs' windows, and the desktop itself restores a
+/// hidden one.
 bool isNeverAnswered(MenuAction action) {
     return action == MenuAction::hideOthers || action == MenuAction::showAll;
 }
 
-/// Whether there is anything that answers to the action now.
+/// Returns true if something responds to the action now.
 bool isAnswered(MenuAction action, const MenuActions& actions) {
     if (action == MenuAction::copy) {
         return (focusedText() != nullptr && focusedText()->hasSelection()) ||
@@ -74,15 +75,15 @@ QAction* add(QMenu& menu, const MenuItem& item, const MenuActions& actions) {
     }
     QObject::connect(action, &QAction::triggered, &menu,
                      [kind, actions] { perform(kind, actions); });
-    // Grey while the menu is open and nothing answers. Its key does nothing then, either, but an
-    // action that is grey all the time would not have one.
+    // Disabled only while the menu is open: a shortcut must stay enabled to work later. Its key
+    // does nothing if nothing responds.
     QObject::connect(&menu, &QMenu::aboutToShow, action,
                      [action, kind, actions] { action->setEnabled(isAnswered(kind, actions)); });
     QObject::connect(&menu, &QMenu::aboutToHide, action, [action] { action->setEnabled(true); });
     return action;
 }
 
-/// What the platform adds to the menu of windows: those that are open.
+/// Adds the open windows to the menu, as the Mac itself does.
 void addWindow(QMenu& menu, QWidget& window) {
     menu.addSeparator();
     QAction* const action = menu.addAction(window.windowTitle());

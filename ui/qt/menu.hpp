@@ -8,15 +8,16 @@
 
 namespace kelmar {
 
-/// What answers to the items of a menu.
+/// The handlers of menu items.
 struct MenuActions {
-    /// Gets the actions, but for copying and selecting, which go to the widget that has the focus.
+    /// Receives all actions except copying and selecting, which go to the widget that has the
+    /// focus.
     std::function<void(MenuAction)> perform;
-    /// Whether `perform` would do anything now.
+    /// Returns true if `perform` would have an effect now.
     std::function<bool(MenuAction)> offers = [](MenuAction /*action*/) { return true; };
 };
 
-/// Fills `bar` with `menus`. Items that nothing here answers to can't be chosen.
+/// Fills `bar` with `menus`. Items without a handler on this platform are disabled.
 void fillMenuBar(QMenuBar& bar, const std::vector<Menu>& menus, const MenuActions& actions);
 
 } // namespace kelmar

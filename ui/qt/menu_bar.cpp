@@ -17,7 +17,7 @@ void MenuBar::setDimmed(bool dimmed) {
 }
 
 void MenuBar::paintEvent(QPaintEvent* /*event*/) {
-    // The style draws a piece of the line with every menu, and at broken scales they don't meet.
+    // The style draws the line in one piece per menu, with gaps at fractional scales.
     const Colours colours(palette());
     QPainter painter(this);
     painter.fillRect(rect(), colours.page);

@@ -9,7 +9,7 @@ class MenuBar : public QMenuBar {
 public:
     explicit MenuBar(QWidget* parent = nullptr);
 
-    /// While the page asks something the bar is as dim as the page; it can be used all the same.
+    /// Dims the bar like the page while the page asks a question; the bar stays usable.
     void setDimmed(bool dimmed);
 
 protected:

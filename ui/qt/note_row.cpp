@@ -39,14 +39,14 @@ void NoteRow::render(const FooterNote& note) {
     const QString help = QString::fromStdString(harmlessText(note.help));
     setToolTip(help);
     text_->setAccessibleDescription(help);
-    // The mouse rests on a note to read its help; the keyboard's focus does.
+    // A mouse user hovers over a note to read its help; a keyboard user focuses it.
     text_->setFocusPolicy(help.isEmpty() ? Qt::NoFocus : Qt::TabFocus);
     text_->installEventFilter(this);
 }
 
 bool NoteRow::eventFilter(QObject* watched, QEvent* event) {
     if (event->type() == QEvent::FocusIn) {
-        // Later, since the toolkit closes a tooltip while it moves the focus.
+        // Later: the toolkit closes tooltips while it moves the focus.
         help_.start(0, this);
         update();
     } else if (event->type() == QEvent::FocusOut) {

@@ -11,10 +11,10 @@ namespace kelmar {
 
 class IconLabel;
 
-/// A symbol beside a text: a footer's note, a line of the summary, what a callout says.
+/// A symbol beside a text: a footer's note, a line of the summary, the text of a callout.
 class NoteRow : public QWidget {
 public:
-    /// `size` is the symbol's, in units.
+    /// `size` is the symbol's, in points.
     NoteRow(const Look::IconColumn& icons, TextStyle style, TextTone tone,
             QWidget* parent = nullptr);
 
@@ -22,7 +22,7 @@ public:
     void render(const SummaryRow& row);
     void render(const Callout& callout);
 
-    /// Shows the note's help while the note has the focus, and the ring around it.
+    /// Shows the note's help and focus ring while the note has the focus.
     bool eventFilter(QObject* watched, QEvent* event) override;
 
 protected:
@@ -34,7 +34,7 @@ private:
     void showNote(const std::string& symbol, Tint tint, const std::string& text);
 
     int size_;
-    QBasicTimer help_; ///< runs until the help is shown
+    QBasicTimer help_; ///< active until the help is shown
     IconLabel* symbol_;
     TextLabel* text_;
 };

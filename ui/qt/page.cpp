@@ -18,7 +18,7 @@ namespace kelmar {
 
 namespace {
 
-/// The controls below `item` that take the focus, from top to bottom as they are laid out.
+/// Collects the focusable controls below `item`, in the order of the layout.
 void collect(QLayoutItem* item, QList<QWidget*>& controls) {
     if (QWidget* const widget = item->widget()) {
         if ((widget->focusPolicy() & Qt::TabFocus) != 0) {
@@ -53,7 +53,7 @@ PageWidget::PageWidget(WindowActions actions, QWidget* parent)
     setFocusPolicy(Qt::ClickFocus);
     const auto shortcut = [this](Qt::Key key, ButtonKey meaning) {
         auto* const made = new QShortcut(key, this);
-        made->setAutoRepeat(false); // a key that is held down answers one question
+        made->setAutoRepeat(false); // a key that is held down must not answer two questions
         connect(made, &QShortcut::activated, this, [this, meaning] { press(meaning); });
     };
     connect(qApp, &QApplication::focusChanged, this, [this] { highlight(); });
@@ -63,7 +63,7 @@ PageWidget::PageWidget(WindowActions actions, QWidget* parent)
 }
 
 PageWidget::~PageWidget() {
-    // The focus moves while the page's parts are taken down.
+    // Destroying the page's parts moves the focus.
     disconnect(qApp, nullptr, this, nullptr);
 }
 
@@ -72,11 +72,11 @@ bool PageWidget::isAsking() const {
 }
 
 PushButton* PageWidget::pressedBy(ButtonKey key) const {
-    // A question is left by either key, whatever has the focus.
+    // Both keys end a question, whatever has the focus.
     if (isAsking()) {
         return alert_->buttons().pressedBy(key);
     }
-    // Elsewhere Return is the focused push button's, as on every desktop that this window is for.
+    // Otherwise Return presses the focused push button, as on all desktops of this platform.
     auto* const focused = dynamic_cast<PushButton*>(window()->focusWidget());
     if (key == ButtonKey::defaultAction && focused != nullptr && isAncestorOf(focused) &&
         focused->isEnabled()) {
@@ -135,7 +135,7 @@ void PageWidget::render(const Page& page) {
     shown_ = page;
     orderFocus();
     if (focus.widget != nullptr && !wasAsking && focused() != focus && !isAsking()) {
-        // The toolkit has moved it on to whatever comes next, which nobody has chosen.
+        // The toolkit moved the focus to the next control, which nobody chose.
         setFocus();
     }
     highlight();
@@ -158,7 +158,7 @@ void PageWidget::orderFocus() {
     QList<QWidget*> controls;
     collect(content_->widget()->layout(), controls);
     collect(footer_->layout(), controls);
-    // Notes have the focus for their help alone: whoever wants a button need not pass them.
+    // Notes take the focus only for their help: put them after the buttons.
     std::stable_partition(controls.begin(), controls.end(), [](const QWidget* control) {
         return qobject_cast<const QLabel*>(control) == nullptr;
     });

@@ -18,7 +18,7 @@ class ContentWidget;
 class FooterWidget;
 class HeaderWidget;
 
-/// Shows pages, each by changing what the one before it left different.
+/// Shows pages; updates only what differs from the previous page.
 class PageWidget : public QWidget {
 public:
     explicit PageWidget(WindowActions actions, QWidget* parent = nullptr);
@@ -28,29 +28,29 @@ public:
 
     void render(const Page& page);
 
-    /// `observer` is told when a question comes and when it goes. One observer.
+    /// Calls `observer` when a question appears and when it goes. One observer.
     void observeAsking(std::function<void(bool asking)> observer) { asking_ = std::move(observer); }
 
-    /// How often `render` has changed anything.
+    /// The number of `render` calls that changed anything.
     [[nodiscard]] std::size_t changes() const { return changes_; }
 
-    /// A question is laid over the page.
+    /// Returns true while a question is shown.
     [[nodiscard]] bool isAsking() const;
 
 protected:
     void resizeEvent(QResizeEvent* event) override;
 
 private:
-    /// What has the focus, and what a button that has it stands for.
+    /// The focused widget, and the action of a focused button.
     struct Focus {
-        QWidget* widget = nullptr; ///< may be gone by now
+        QWidget* widget = nullptr; ///< may have been deleted
         std::optional<Action> action;
 
         friend bool operator==(const Focus&, const Focus&) = default;
     };
 
     [[nodiscard]] Focus focused() const;
-    /// What `key` presses now; null if nothing.
+    /// The button that `key` presses now; null if none.
     [[nodiscard]] PushButton* pressedBy(ButtonKey key) const;
     void press(ButtonKey key);
     void highlight();
@@ -58,11 +58,11 @@ private:
     void orderFocus();
 
     WindowActions actions_;
-    QWidget* below_; ///< all but the alert
+    QWidget* below_; ///< everything except the alert
     HeaderWidget* header_;
     ContentWidget* content_;
     FooterWidget* footer_;
-    ConfirmationOverlay* alert_ = nullptr; ///< made for the first question
+    ConfirmationOverlay* alert_ = nullptr; ///< created for the first question
     QPointer<PushButton> highlighted_;
     std::optional<Page> shown_;
     std::function<void(bool)> asking_ = [](bool) {};

@@ -20,7 +20,7 @@ private:
     TextLabel* title_;
 };
 
-/// The stages of a run, and below them what it is doing.
+/// The stages of a run, and below them the current step.
 class ProgressSectionWidget : public Section {
 public:
     explicit ProgressSectionWidget(QWidget* parent = nullptr);

@@ -24,7 +24,7 @@ void PushButton::render(const Button& button) {
         return;
     }
     if (button.action != shown_.action) {
-        setDown(false); // a press that has begun was meant for what stood here before
+        setDown(false); // a press that has begun was meant for the old action
     }
     shown_ = button;
     setText(QString::fromStdString(button.text));
@@ -69,7 +69,7 @@ void PushButton::paintEvent(QPaintEvent* /*event*/) {
     const bool filled = highlighted_ && !isGreyed(*this);
     QPainter painter(this);
     painter.setRenderHint(QPainter::Antialiasing);
-    constexpr qreal edge = Look::focusRoom + Look::hairline / 2.0; // the middle of the face's edge
+    constexpr qreal edge = Look::focusRoom + Look::hairline / 2.0; // centre of the face's outline
     const QRectF face = QRectF(rect()).adjusted(edge, edge, -edge, -edge);
     QColor fill = filled ? colours.accent : colours.control;
     if (isDown()) {
@@ -85,7 +85,7 @@ void PushButton::paintEvent(QPaintEvent* /*event*/) {
                    : filled             ? colours.onAccent
                    : shown_.destructive ? colours.red
                                         : colours.text);
-    // Wrapped only where it has to be: at broken scales a line may be wider than measured.
+    // Wraps only if it must: at fractional scales a line may be wider than measured.
     const int flags = Qt::AlignCenter | (wraps() ? Qt::TextWordWrap : 0);
     const int sides = padding().sides;
     painter.drawText(wraps() ? rect().adjusted(sides, 0, -sides, 0) : rect(), flags, text());

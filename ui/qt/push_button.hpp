@@ -7,8 +7,8 @@
 
 namespace kelmar {
 
-/// A button of the page. It takes no Return itself: the page knows what Return presses, and lets
-/// that button be highlighted.
+/// A button of the page. It does not handle Return: the page decides what Return presses, and
+/// highlights that button.
 class PushButton : public QPushButton {
 public:
     enum class Size {

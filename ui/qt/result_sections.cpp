@@ -32,7 +32,7 @@ ProblemRowWidget::ProblemRowWidget(bool first, QWidget* parent)
     auto* const row = new QHBoxLayout;
     row->setContentsMargins(margins(Look::cardPadding, Look::partGap));
     row->setSpacing(Look::rowIcons.gap);
-    // The sign at every item's beginning makes a list of what is else a wall of paths.
+    // The symbol before every item separates the paths visually.
     auto* const sign = new IconLabel(grown(Look::rowIcons.width), lineHeight(TextStyle::body));
     sign->showSymbol("exclamationmark.circle", Tint::orange, grown(Look::noteSymbol));
     auto* const texts = new QVBoxLayout;

@@ -7,15 +7,15 @@
 
 namespace kelmar {
 
-/// The widgets of a list of records, as many as there are records. A record that stays keeps its
-/// widget, and with it focus and all: only the last ones come and go.
+/// The widgets of a list of records, one for each record. A record that stays keeps its widget,
+/// including the focus; only widgets at the end are added and removed.
 template <class Row>
 class RowList {
 public:
-    /// Rows are added to `layout`, which outlives this.
+    /// Adds rows to `layout`, which must outlive this object.
     explicit RowList(QBoxLayout& layout) : layout_(layout) {}
 
-    /// Shows `records`, each by `row.render(record)`; `make(index)` makes a row that is missing.
+    /// Shows `records` through `row.render(record)`; calls `make(index)` for a missing row.
     template <class Record, class Make>
     void render(const std::vector<Record>& records, const Make& make) {
         while (rows_.size() > records.size()) {
@@ -25,7 +25,7 @@ public:
         while (rows_.size() < records.size()) {
             rows_.push_back(make(rows_.size()));
             layout_.addWidget(rows_.back());
-            rows_.back()->show(); // now, and not one picture later, as a layout would
+            rows_.back()->show(); // call show() now: one shown by its layout appears a frame late
         }
         for (std::size_t index = 0; index < records.size(); ++index) {
             rows_[index]->render(records[index]);

@@ -24,7 +24,7 @@ QString SelectableText::selected() const {
         return text();
     }
     QString part = whole.mid(std::min(anchor_, position_), length);
-    // What only guides the line is not part of the text.
+    // Formatting characters that were added for drawing are not part of the text.
     part.removeIf([](QChar character) { return character.category() == QChar::Other_Format; });
     return part;
 }
@@ -66,7 +66,7 @@ void SelectableText::mouseDoubleClickEvent(QMouseEvent* /*event*/) {
 
 void SelectableText::focusOutEvent(QFocusEvent* event) {
     TextLabel::focusOutEvent(event);
-    // A menu takes the focus for as long as it is open, and may be there to copy.
+    // Keep the selection while a menu is open: it takes the focus, and may be there to copy.
     if (event->reason() != Qt::PopupFocusReason && event->reason() != Qt::MenuBarFocusReason &&
         event->reason() != Qt::ActiveWindowFocusReason) {
         select(0, 0);

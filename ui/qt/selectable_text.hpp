@@ -4,17 +4,17 @@
 
 namespace kelmar {
 
-/// A text to select with the mouse, all of it with a double click, and to copy.
+/// A text that can be selected with the mouse, as a whole with a double click, and copied.
 class SelectableText : public TextLabel {
 public:
     SelectableText(TextStyle style, TextTone tone, QWidget* parent = nullptr);
 
-    /// What is selected, as the text has it.
+    /// The selection, in the original text.
     [[nodiscard]] QString selected() const;
 
     void selectAll();
 
-    /// Puts what is selected on the clipboard.
+    /// Copies the selection to the clipboard.
     void copy() const;
 
 protected:
@@ -27,7 +27,7 @@ protected:
 private:
     void select(int anchor, int position);
 
-    // Places in what is drawn.
+    // Positions in the drawn text.
     int anchor_ = 0;
     int position_ = 0;
 };

@@ -6,8 +6,8 @@
 
 namespace kelmar {
 
-/// A size at the trailing edge of its row, every digit as wide as the widest, so that a number
-/// that changes does not move.
+/// A size at the trailing edge of its row, in tabular digits, so that a changing number does not
+/// move.
 class SizeLabel : public QLabel {
 public:
     explicit SizeLabel(QWidget* parent = nullptr);

@@ -23,7 +23,7 @@ SlimScrollBar::SlimScrollBar(QWidget* parent) : QScrollBar(Qt::Vertical, parent)
 }
 
 void SlimScrollBar::paintEvent(QPaintEvent* /*event*/) {
-    // Where the handle can be grabbed is the style's to say.
+    // The style decides where the handle can be grabbed.
     QStyleOptionSlider option;
     initStyleOption(&option);
     const QRect handle =

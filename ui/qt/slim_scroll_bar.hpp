@@ -6,7 +6,7 @@
 
 namespace kelmar {
 
-/// A narrow upright scroll bar without buttons and groove.
+/// A narrow vertical scroll bar without buttons and groove.
 class SlimScrollBar : public QScrollBar {
 public:
     explicit SlimScrollBar(QWidget* parent = nullptr);

@@ -6,8 +6,8 @@
 
 namespace kelmar {
 
-/// The symbol of that name, all in one colour, `side` units of the window wide and high, sharp on
-/// a screen with `ratio` pixels a unit. Drawn once; empty when there is none of that name.
+/// The symbol `name` in one colour, `side` points wide and high, sharp on a screen with `ratio`
+/// pixels per point. Cached; empty if there is no such symbol.
 QPixmap symbol(const std::string& name, const QColor& colour, int side, qreal ratio);
 
 /// A picture in its own colours: "kelmar-uninstaller", "kelmar-app".

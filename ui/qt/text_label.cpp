@@ -17,12 +17,12 @@ namespace kelmar {
 
 namespace {
 
-constexpr int leastWidth = 16; ///< that a layout may give a label
-constexpr int elidedLines = 2; ///< what is longer loses its middle
+constexpr int leastWidth = 16; ///< minimum that a layout may give a label
+constexpr int elidedLines = 2; ///< a longer text loses its middle
 
 } // namespace
 
-/// Lays `layout` out in lines of `width`; the height that they take.
+/// Lays `layout` out in lines of `width` and returns its height.
 double TextLabel::layOut(QTextLayout& layout, double width) const {
     QTextOption option(alignment());
     option.setWrapMode(QTextOption::WrapAtWordBoundaryOrAnywhere);
@@ -83,7 +83,7 @@ QString TextLabel::drawn() const {
 
 QSize TextLabel::sizeHint() const {
     const QFontMetrics metrics(font());
-    // As the lines are measured, which at broken scales is not as whole units have it.
+    // Measured by the layout that draws it: at fractional scales, whole units differ.
     QTextLayout layout(drawn(), font());
     const double height = layOut(layout, QWIDGETSIZE_MAX);
     const int lines = overflow_ == Overflow::elideMiddle ? elidedLines : 1;
@@ -123,7 +123,7 @@ QString TextLabel::elided() const {
     const QString whole = drawn();
     const QFontMetrics metrics(font());
     QString shown = whole;
-    // A line that breaks at a word leaves some of its width unused.
+    // Each line that breaks at a word leaves some of its width unused, so try smaller totals.
     const int step = std::max(1, width() / 16);
     for (int room = elidedLines * width(); room > step && lines(shown, width()) > elidedLines;
          room -= step) {

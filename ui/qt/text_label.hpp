@@ -10,26 +10,27 @@ class QAbstractButton;
 
 namespace kelmar {
 
-/// Plain text that never widens the page: it wraps, inside a word if need be, or loses its middle.
-/// Names of files are data: what they hold of markup and of characters that turn or break the line
+/// Plain text that never widens the page: it wraps, inside a word if it must, or loses its middle.
+/// File names are data: markup and characters that would turn or break the line are shown
+/// literally.
 /// shows as what it is.
 class TextLabel : public QLabel {
 public:
     enum class Overflow {
         wrap,
-        elideMiddle, ///< of what takes more than two lines; there is room for two in any case
+        elideMiddle, ///< for more than two lines; always reserves room for two
     };
 
     TextLabel(TextStyle style, TextTone tone, Overflow overflow = Overflow::wrap,
               QWidget* parent = nullptr);
 
-    /// Draws nothing anew when `text` is what is shown already.
+    /// Does nothing if `text` is already shown.
     void showText(const std::string& text);
 
     void setTone(TextTone tone);
 
-    /// A press on the label presses `button`, which bears its name for people who can't see: to
-    /// them the two are one.
+    /// Makes a press on the label press `button`, whose accessible name is this text: to screen
+    /// readers the two are one control.
     void nameFor(QAbstractButton* button);
 
     [[nodiscard]] QSize sizeHint() const override;
@@ -47,10 +48,10 @@ protected:
     /// The text as it is drawn.
     [[nodiscard]] QString drawn() const;
 
-    /// The place in `drawn` of the character at `point`.
+    /// The position in `drawn` of the character at `point`.
     [[nodiscard]] int placeAt(const QPoint& point) const;
 
-    /// What is selected of `drawn`.
+    /// The selected ranges of `drawn`.
     [[nodiscard]] virtual QList<QTextLayout::FormatRange> selections() const { return {}; }
 
 private:
@@ -61,8 +62,8 @@ private:
 
     TextTone tone_;
     Overflow overflow_;
-    QAbstractButton* button_ = nullptr; ///< that it names
-    // The last answer of heightForWidth: layouts ask for the same one many times.
+    QAbstractButton* button_ = nullptr; ///< the button that it names
+    // Cache of heightForWidth: layouts ask for the same width many times.
     mutable int measuredWidth_ = -1;
     mutable int measuredHeight_ = 0;
 };

@@ -4,7 +4,7 @@
 
 namespace kelmar {
 
-/// A check box in the shape of a switch; the label beside it names it.
+/// A check box that looks like a switch; the label beside it is its name.
 class ToggleSwitch : public Choice {
 public:
     explicit ToggleSwitch(QWidget* parent = nullptr);

@@ -8,7 +8,7 @@
 namespace kelmar {
 
 QString toolTipMarkup(const QString& plain) {
-    constexpr int longest = 40; // characters without a place to break the line
+    constexpr int longest = 40; // characters without a possible line break
     const QString drawn = QString::fromStdString(drawnText(plain.toStdString()));
     QString broken;
     int unbroken = 0;

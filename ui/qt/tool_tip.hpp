@@ -6,11 +6,11 @@ class QHelpEvent;
 
 namespace kelmar {
 
-/// Shows the tooltip of `widget` as the plain text that it is, in lines that wrap: the toolkit
-/// wraps only markup, and takes a text for markup by its looks.
+/// Shows the tooltip of `widget` as plain text in wrapped lines. The toolkit wraps only markup, and
+/// guesses from a text whether it is markup.
 void showToolTip(QWidget& widget, const QHelpEvent& event);
 
-/// The markup of a plain text, with places to break lines at.
+/// Converts plain text to markup, with possible line breaks.
 QString toolTipMarkup(const QString& plain);
 
 } // namespace kelmar

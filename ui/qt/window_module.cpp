@@ -10,13 +10,13 @@
 
 #include <unistd.h>
 
-// The one name that the module shows to the executable that loads it.
+// The only symbol that the module exports to the executable that loads it.
 extern "C" __attribute__((visibility("default"))) void kelmarRunWindow();
 
 namespace {
 
-/// Until there is a window, what the toolkit has to say ends up in one line of ours. It has no
-/// other way to report that there is no display than to end the program.
+/// While the application is constructed, a fatal message becomes one line of ours. Without a
+/// display the toolkit ends the program and reports it in no other way.
 void untilThereIsAWindow(QtMsgType type, const QMessageLogContext& /*where*/,
                          const QString& /*message*/) {
     if (type == QtFatalMsg) {
@@ -25,7 +25,7 @@ void untilThereIsAWindow(QtMsgType type, const QMessageLogContext& /*where*/,
     }
 }
 
-/// Some desktops' plugins talk; nobody is there to listen.
+/// Prints errors only: some desktops' plugins print messages that nobody needs.
 void afterwards(QtMsgType type, const QMessageLogContext& /*where*/, const QString& message) {
     if (type == QtCriticalMsg || type == QtFatalMsg) {
         kelmar::printErrorLine(kelmar::Texts::errorPrefix + message.toStdString());
@@ -35,7 +35,7 @@ void afterwards(QtMsgType type, const QMessageLogContext& /*where*/, const QStri
 } // namespace
 
 extern "C" void kelmarRunWindow() {
-    // No argument is the toolkit's: "-style" and the like are not options of this program.
+    // Passes no arguments to the toolkit: "-style" and the like are not options of this program.
     int count = 1;
     char name[] = "kelmar-uninstaller";
     char* arguments[] = {name, nullptr};
@@ -48,8 +48,7 @@ extern "C" void kelmarRunWindow() {
     kelmar::AppDelegate delegate;
     delegate.applicationDidFinishLaunching();
     const int status = QApplication::exec();
-    // A folder may still be being measured, on a thread that knows nothing of this: leave it to
-    // the system, instead of taking things down under it.
+    // A thread may still be measuring a folder: exit without destroying what it uses.
     std::fflush(nullptr);
     ::_exit(status);
 }
