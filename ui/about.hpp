@@ -4,7 +4,7 @@
 
 namespace kelmar {
 
-/// What the panel about the program shows where the platform has none of its own.
+/// The content of the about panel on platforms that have no panel of their own.
 struct About {
     std::string title; ///< of the panel
     std::string name;

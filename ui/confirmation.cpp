@@ -11,7 +11,7 @@ Confirmation confirmation(const UninstallerModel::Published& published) {
                     "deleted for good. You can't undo this.";
     Button goOn{"Uninstall and Delete Data", Action::uninstall};
     goOn.destructive = true;
-    // Return as well as Escape lead out: a second press of Return deletes nothing.
+    // Return as well as Escape cancels: pressing Return twice deletes nothing.
     alert.buttons = {goOn, {"Cancel", Action::dismissConfirmation, ButtonKey::both}};
     return alert;
 }

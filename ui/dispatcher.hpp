@@ -4,8 +4,8 @@
 
 namespace kelmar {
 
-/// Where the window's work is done. Jobs are handed over and never waited for; each kind may be
-/// asked for from any thread.
+/// Runs the window's jobs. Nobody waits for a posted job. All functions may be called from any
+/// thread.
 class Dispatcher {
 public:
     using Job = std::function<void()>;
@@ -15,14 +15,14 @@ public:
     Dispatcher& operator=(const Dispatcher&) = delete;
     virtual ~Dispatcher() = default;
 
-    /// Runs `job` on the main thread, later, after everything that was posted before it.
+    /// Posts `job` to the main thread; jobs run in the order of posting.
     virtual void toMain(Job job) = 0;
 
-    /// Runs `job` beside the main thread and beside other jobs, for something that a person waits
-    /// for.
+    /// Runs `job` on a worker thread, concurrently with other jobs, for something that a person
+    /// waits for.
     virtual void userInitiated(Job job) = 0;
 
-    /// The same for something that may take its time: it yields to all other work.
+    /// The same at low priority: the job yields to all other work.
     virtual void utility(Job job) = 0;
 };
 

@@ -8,7 +8,7 @@ namespace kelmar {
 
 namespace {
 
-// U+2068, byte by byte: as text it would turn the lines of this source, too.
+// U+2068, byte by byte: as text it would reorder the lines of this source as well.
 constexpr std::array isolate{'\xE2', '\x81', '\xA8'};
 constexpr std::string_view firstStrongIsolate(isolate.data(), isolate.size());
 constexpr std::string_view popIsolate = "\u2069";
@@ -20,7 +20,7 @@ struct Character {
     char32_t code;
 };
 
-/// The character at the beginning of `text`, which is well-formed and not empty.
+/// The first character of `text`, which is well-formed and not empty.
 Character firstOf(std::string_view text) {
     const auto first = static_cast<unsigned char>(text.front());
     const std::size_t length = first < 0x80 ? 1 : first < 0xE0 ? 2 : first < 0xF0 ? 3 : 4;
@@ -31,19 +31,19 @@ Character firstOf(std::string_view text) {
     return {text.substr(0, length), code};
 }
 
-/// The blocks of scripts that are written from right to left (Unicode's DerivedBidiClass.txt).
+/// The blocks of right-to-left scripts (Unicode's DerivedBidiClass.txt).
 bool isRightToLeft(char32_t code) {
     return (code >= 0x590 && code <= 0x8FF) || (code >= 0xFB1D && code <= 0xFDFF) ||
            (code >= 0xFE70 && code <= 0xFEFE) || (code >= 0x10800 && code <= 0x10FFF) ||
            (code >= 0x1E800 && code <= 0x1EFFF);
 }
 
-/// What belongs to a name between two of its right-to-left characters.
+/// Returns true if `between` may occur inside a name, between two right-to-left characters.
 bool joinsWords(std::string_view between) {
     return between.empty() || between == " " || between == "-" || between == "_" || between == ".";
 }
 
-/// The control pictures stand in few fonts, and there they are unreadable in the size of text.
+/// Few fonts have the control pictures, and they are unreadable at text size.
 bool isControlPicture(char32_t code) {
     return code >= 0x2400 && code <= 0x2421;
 }
@@ -53,7 +53,7 @@ bool isControlPicture(char32_t code) {
 std::string drawnText(std::string_view text) {
     const std::string harmless = harmlessText(text);
     std::string drawn;
-    std::string between; // what came after the latest right-to-left character
+    std::string between; // the text since the latest right-to-left character
     bool isolated = false;
     const auto leave = [&] {
         if (isolated) {

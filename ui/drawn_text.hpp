@@ -5,11 +5,11 @@
 
 namespace kelmar {
 
-/// `text` as a window draws it, well-formed UTF-8: harmless; every right-to-left name isolated, so
-/// that names which follow one another keep their order; and with a place after every slash where a
-/// line may break. A character that is made visible is one that fonts have.
+/// Prepares `text` for drawing; the result is well-formed UTF-8. Makes it harmless with characters
+/// that fonts have, isolates every right-to-left name so that consecutive names keep their order,
+/// and allows a line break after every slash.
 ///
-/// Only for drawing: what is copied or read aloud is the text itself.
+/// Only for drawing: copy and announce the original text.
 std::string drawnText(std::string_view text);
 
 } // namespace kelmar

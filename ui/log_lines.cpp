@@ -10,7 +10,7 @@ class LogLines::Text {
 public:
     Text() = default;
 
-    /// The first `count` lines of another.
+    /// Copies the first `count` lines of `other`.
     Text(const Text& other, std::size_t count) {
         for (std::size_t index = 0; index < count; ++index) {
             append(other[index]);
@@ -24,7 +24,7 @@ public:
     void append(std::string_view line) {
         if (line.size() > room_) {
             room_ = std::max(blockSize, line.size());
-            // Nothing moves when a block is added: lines look into the blocks.
+            // Blocks never move: lines point into them.
             blocks_.push_back(std::make_unique<char[]>(room_));
             free_ = blocks_.back().get();
         }
@@ -39,7 +39,7 @@ private:
 
     std::vector<std::unique_ptr<char[]>> blocks_;
     std::vector<std::string_view> lines_;
-    char* free_ = nullptr; ///< what is left of the last block
+    char* free_ = nullptr; ///< the free rest of the last block
     std::size_t room_ = 0;
 };
 
@@ -53,7 +53,7 @@ void LogLines::append(std::string_view line) {
     if (!lines_) {
         lines_ = std::make_shared<Text>();
     } else if (lines_->size() != count_) {
-        // Another copy has grown: the two part here.
+        // Another copy has appended lines: copy on write.
         lines_ = std::make_shared<Text>(*lines_, count_);
     }
     lines_->append(harmlessText(line));

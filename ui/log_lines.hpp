@@ -8,10 +8,9 @@
 
 namespace kelmar {
 
-/// The lines of a record that only ever grows, as people may see them: names of files in a line
-/// neither break it nor turn it round (`harmlessText`). A copy costs nothing and stays as it was
-/// when the original grows, so that a page can hold a run's whole record without its text being
-/// copied for every new line. All copies of one record belong to one thread.
+/// The lines of a log, which only grows, made harmless for display (`harmlessText`). Copying is
+/// cheap, and a copy keeps its lines when the original grows: a page can hold the whole log without
+/// copying its text for every new line. All copies of one log must be used on one thread.
 class LogLines {
 public:
     LogLines() = default;
@@ -23,24 +22,24 @@ public:
 
     [[nodiscard]] bool empty() const { return count_ == 0; }
 
-    /// `index` is below `size`. What is returned stays as long as any copy of the record.
+    /// `index` is below `size`. The result is valid as long as any copy of the log exists.
     [[nodiscard]] std::string_view operator[](std::size_t index) const;
 
-    /// Whether this record is `earlier` grown longer, or still the same: what was shown of
-    /// `earlier` still holds. Answered without looking at the text; of two records that were
-    /// written separately, or that have parted since, the answer is no.
+    /// Returns true if this log is `earlier`, with or without new lines: what was shown of
+    /// `earlier` is still valid. Does not compare texts; returns false for two logs that were
+    /// written separately or have diverged.
     [[nodiscard]] bool continues(const LogLines& earlier) const;
 
-    /// The lines from `first` on, each but the last followed by a line feed.
+    /// The lines from `first` on, separated by line feeds.
     [[nodiscard]] std::string text(std::size_t first = 0) const;
 
     friend bool operator==(const LogLines& one, const LogLines& other);
 
 private:
-    /// A long record takes little more memory than its text: lines have no storage of their own.
+    /// A long log takes little more memory than its text: lines share blocks of storage.
     class Text;
 
-    /// Shared by all copies; each sees its own first `count_` lines, which never change.
+    /// Shared by all copies; each sees only its first `count_` lines, which never change.
     std::shared_ptr<Text> lines_;
     std::size_t count_ = 0;
 };

@@ -2,8 +2,8 @@
 
 namespace kelmar {
 
-/// The look of the window, for both renderers. Lengths are in points (device-independent pixels).
-/// A control that the platform draws keeps the platform's size.
+/// The look of the window, for both renderers. Lengths are in points (device-independent pixels). A
+/// native control keeps the platform's size.
 namespace Look {
 
 // The window and its page.
@@ -12,8 +12,8 @@ constexpr int windowHeight = 620;
 constexpr int windowIcon = 64;    ///< in the desktop's lists of windows
 constexpr int pageMargin = 24;    ///< at the sides of header, content and footer
 constexpr int headerPadding = 12; ///< above and below the header
-constexpr int noticeMargin = 48;  ///< at the sides of a text that stands alone on the page
-constexpr int scrollVeil = 12;    ///< where what scrolls fades out before the lines around it
+constexpr int noticeMargin = 48;  ///< at the sides of a text without other content
+constexpr int scrollVeil = 12;    ///< height of the fade at the content's edges
 constexpr int sectionGap = 16;    ///< between sections, and above and below all of them
 constexpr int partGap = 8;        ///< between the parts of a row or of a section
 constexpr int lineGap = 4;        ///< between lines that belong together
@@ -54,16 +54,16 @@ constexpr double textContrast = 4.5;
 constexpr double controlContrast = 3.0;
 
 // The log.
-constexpr int logHeight = 112;       ///< at least; the log fills what is left of the page
+constexpr int logHeight = 112;       ///< minimum; the log fills the rest of the page
 constexpr int logSideMargin = 2;     ///< between the log's card and the log with its scroll bar
 constexpr int logVerticalMargin = 4; ///< the same, above and below
 constexpr int logPadding = 10;       ///< between the log's edge and its text
 
 // The footer and its buttons.
-constexpr int footerHeight = 64; ///< at least
+constexpr int footerHeight = 64; ///< minimum
 constexpr int footerPadding = 12;
 constexpr int buttonGap = 12;
-constexpr int buttonWidth = 88; ///< of a large button, at least
+constexpr int buttonWidth = 88; ///< minimum width of a large button
 
 // Controls, where the platform does not draw its own.
 struct Padding {
@@ -79,11 +79,11 @@ constexpr int checkBox = 16;
 constexpr int switchWidth = 38;
 constexpr int switchHeight = 22;
 constexpr int disclosureChevron = 14;
-constexpr int disclosureBearing = 4; ///< of the chevron in its square, where nothing is drawn
+constexpr int disclosureBearing = 4; ///< empty space around the chevron in its square
 constexpr int disclosureGap = 4;     ///< between the chevron's square or the triangle and its text
 constexpr int scrollBar = 10;
 constexpr int focusRing = 2; ///< the width of the line around the focused control
-constexpr int focusRoom = 3; ///< what a control keeps free around itself for its ring
+constexpr int focusRoom = 3; ///< space around a control for its focus ring
 
 // The alert and the about panel, where the platform does not draw its own.
 constexpr int alertWidth = windowWidth - 2 * pageMargin;
@@ -100,7 +100,7 @@ enum class TextStyle {
     sectionTitle, ///< above a card; an alert's title
     body,
     callout, ///< second lines and notes
-    size,    ///< of a folder: digits of equal width, so that a number that changes does not move
+    size,    ///< of a folder: tabular digits, so that a changing number does not move
     log,
 };
 

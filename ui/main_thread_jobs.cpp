@@ -8,13 +8,13 @@ MainThreadJobs::~MainThreadJobs() {
     takePosted();
 }
 
-// Every step that decides whether a turn is asked for is sequentially consistent: either the poster
-// sees that no turn is on its way, or the turn that ends sees what was posted.
+// Every operation that decides whether to schedule a turn is sequentially consistent: either the
+// poster sees that no turn is pending, or the ending turn sees the posted job.
 bool MainThreadJobs::post(Dispatcher::Job job) {
     auto* const posted = new Posted{std::move(job), nullptr};
     Posted* latest = posted_.load(std::memory_order_relaxed);
-    // From the exchange on the record belongs to the main thread, which may have freed it by now.
-    // Nobody else frees any (no ABA).
+    // After the exchange the main thread owns the node and may already have freed it. No other
+    // thread frees nodes, so there is no ABA problem.
     do {
         posted->earlier = latest;
     } while (!posted_.compare_exchange_weak(latest, posted));

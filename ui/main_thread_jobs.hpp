@@ -8,9 +8,9 @@
 
 namespace kelmar {
 
-/// The jobs that wait for the main thread, in the order in which they were posted. Posting takes no
-/// lock. The event loop that runs them is the toolkit's: it is to give them a turn whenever `post`
-/// or `runTurn` asks for one. Made before any job, and there as long as any.
+/// A queue of jobs for the main thread, in the order of posting. Posting is lock-free. The
+/// toolkit's event loop runs them: it must call `runTurn` whenever `post` or `runTurn` requests a
+/// turn. Must outlive all jobs.
 class MainThreadJobs {
 public:
     MainThreadJobs() = default;
@@ -18,14 +18,16 @@ public:
     MainThreadJobs& operator=(const MainThreadJobs&) = delete;
     ~MainThreadJobs();
 
-    /// What one turn of the event loop gives to jobs: a quarter of the time between two pictures.
+    /// Time budget of one turn: a quarter of a frame.
     static constexpr std::chrono::milliseconds share{4};
 
-    /// From any thread. Whether a turn is to be asked for; while one is on its way, it is not.
+    /// Adds a job; may be called from any thread. Returns true if the caller must schedule a turn;
+    /// false if one is already pending.
     [[nodiscard]] bool post(Dispatcher::Job job);
 
-    /// On the main thread. Runs jobs for as long as `share` allows, at least one; whether another
-    /// turn is to be asked for. The event loop draws and answers in between.
+    /// Call on the main thread. Runs at least one job, and more until `share` has passed. Returns
+    /// true if the caller must schedule another turn; the event loop draws and handles input in
+    /// between.
     [[nodiscard]] bool runTurn();
 
 private:
@@ -36,9 +38,9 @@ private:
 
     void takePosted();
 
-    std::atomic<Posted*> posted_{nullptr}; ///< the latest first
-    std::atomic<bool> asked_{false};       ///< a turn is on its way
-    std::deque<Dispatcher::Job> waiting_;  ///< for the main thread alone, the earliest first
+    std::atomic<Posted*> posted_{nullptr}; ///< a stack, the latest first
+    std::atomic<bool> asked_{false};       ///< a turn is pending
+    std::deque<Dispatcher::Job> waiting_;  ///< main thread only, the earliest first
 };
 
 } // namespace kelmar

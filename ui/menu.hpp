@@ -6,7 +6,8 @@
 
 namespace kelmar {
 
-/// What a menu's item asks of whatever has the keyboard's focus, then of the application.
+/// The action of a menu item, sent to the widget with the keyboard's focus, then to the
+/// application.
 enum class MenuAction {
     about,
     hide,
@@ -21,7 +22,7 @@ enum class MenuAction {
 struct MenuItem {
     std::string title;
     MenuAction action = MenuAction::about;
-    /// Pressed with the command key (control, where there is none); 0 without.
+    /// Pressed with the command key (control on systems without one); 0 without a shortcut.
     char key = 0;
     bool option = false; ///< pressed with the option key (alt) as well
 

@@ -8,11 +8,11 @@
 #include <variant>
 #include <vector>
 
-/// What the window shows, as plain records: every text, symbol, colour, state and key. A renderer
-/// draws them and sends actions back; it decides nothing.
+/// The content of the window as plain records: every text, symbol, colour, state and key. A
+/// renderer draws them and sends actions back; it decides nothing.
 namespace kelmar {
 
-/// A colour by its meaning; the renderer takes the platform's own for it.
+/// A colour by its meaning; the renderer maps it to the platform's own.
 enum class Tint {
     secondary, ///< quieter than text
     green,     ///< done
@@ -30,12 +30,12 @@ enum class Action {
     toggleDetails,
 };
 
-/// The key that presses a button, wherever the keyboard's focus is.
+/// The key that presses a button, whatever has the focus.
 enum class ButtonKey {
     none,
     defaultAction, ///< Return
     cancelAction,  ///< Escape
-    both,          ///< either: the way out is also what Return does
+    both,          ///< both keys: Return cancels as well
 };
 
 struct Button {
@@ -43,7 +43,7 @@ struct Button {
     Action action = Action::quit;
     ButtonKey key = ButtonKey::none;
     bool enabled = true;
-    bool destructive = false; ///< drawn as a warning, and never the default
+    bool destructive = false; ///< drawn as a warning; never the default button
 
     friend bool operator==(const Button&, const Button&) = default;
 };
@@ -52,7 +52,7 @@ struct Header {
     std::string title;
     std::string subtitle;
 
-    /// Both, as a screen reader is to say them.
+    /// Both texts, as a screen reader announces them.
     [[nodiscard]] std::string announcement() const;
 
     friend bool operator==(const Header&, const Header&) = default;
@@ -64,7 +64,7 @@ struct SectionTitle {
     friend bool operator==(const SectionTitle&, const SectionTitle&) = default;
 };
 
-/// A spinner, and why.
+/// A spinner with its text.
 struct Busy {
     std::string text;
 
@@ -94,10 +94,10 @@ struct FoundRow {
     friend bool operator==(const FoundRow&, const FoundRow&) = default;
 };
 
-/// A size, in digits of equal width and the secondary colour.
+/// A size, in tabular digits and the secondary colour.
 struct SizeText {
     std::optional<std::int64_t> bytes; ///< absent while it is being measured
-    std::string of; ///< what has that size, for people who can't see what stands beside it
+    std::string of;                    ///< what has that size, for screen readers
 
     [[nodiscard]] std::string text() const;
     [[nodiscard]] std::string accessibleName() const;
@@ -129,7 +129,7 @@ struct SummaryRow {
     friend bool operator==(const SummaryRow&, const SummaryRow&) = default;
 };
 
-/// The state of a stage's row: a symbol, or a spinner where there is none.
+/// The state of a stage's row: a symbol, or, if it has none, a spinner.
 struct StageIcon {
     std::optional<std::string> symbol;
     Tint tint = Tint::secondary;
@@ -176,14 +176,14 @@ struct DataSection {
     std::string label; ///< of the switch
     bool on = false;
     SizeText total;
-    std::string line; ///< under the switch
+    std::string line; ///< the text under the switch
     Button folders;   ///< shows the lists, or hides them
     std::vector<FolderList> lists;
 
     friend bool operator==(const DataSection&, const DataSection&) = default;
 };
 
-/// The record of a run, unfolded or not.
+/// The log of a run, and whether it is unfolded.
 struct Details {
     Button toggle;
     bool shown = false;
@@ -257,7 +257,7 @@ struct Footer {
 struct Confirmation {
     std::string title;
     std::string message;
-    std::vector<Button> buttons; ///< the one that goes on first
+    std::vector<Button> buttons; ///< the one that continues comes first
 
     friend bool operator==(const Confirmation&, const Confirmation&) = default;
 };
@@ -268,8 +268,8 @@ struct Page {
     Footer footer;
     std::optional<Confirmation> confirmation;
 
-    /// What a screen reader is to say when the page comes to be one of another phase, or when this
-    /// text changes: the headline, and the notice if there is one.
+    /// What a screen reader announces when the page's phase changes, or when this text does: the
+    /// headline, and the notice if there is one.
     [[nodiscard]] std::string announcement() const;
 
     friend bool operator==(const Page&, const Page&) = default;

@@ -11,25 +11,25 @@
 /// The parts of the page, each a pure function of what the model publishes.
 namespace kelmar {
 
-/// What was found, a row for each kind of thing. `inventory` is not empty.
+/// What was found, one row for each kind of item. `inventory` must not be empty.
 FoundSection foundSection(const Inventory& inventory, const KelmarPaths& paths);
 
-/// The choice of data to delete. `published` has data folders.
+/// The choice of data to delete. `published` must have data folders.
 DataSection dataSection(const UninstallerModel::Published& published, const KelmarPaths& paths,
                         bool showFolders);
 
-/// What a finished run did and what it kept. Lists the data roots as they are now, which is all
-/// that any of these functions reads.
+/// What a finished run removed and what it kept. Lists the data roots as they are now; this is the
+/// only function here that reads the file system.
 std::vector<SummaryRow> summary(const UninstallerModel::Published& published,
                                 const KelmarPaths& paths);
 
-/// What is below the content in the phase that the model is in.
+/// The footer in the model's current phase.
 Footer footer(const UninstallerModel::Published& published);
 
 /// The question before data is deleted.
 Confirmation confirmation(const UninstallerModel::Published& published);
 
-/// A stage's icon by its state.
+/// The icon for a stage's state.
 StageIcon stageIcon(UninstallerModel::StageRow::State state);
 
 } // namespace kelmar

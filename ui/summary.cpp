@@ -20,7 +20,7 @@ bool isDeleted(const DataRoot& root, const std::vector<DataFolder>& deleted) {
     });
 }
 
-/// What became of a data root, if it is still there and there is something to say.
+/// What is left of a data root; absent if it is gone or there is nothing to report.
 std::optional<std::string> kept(const DataRoot& root, const std::vector<DataFolder>& deleted,
                                 const KelmarPaths& paths) {
     std::optional<std::vector<std::string>> names = sortedNames(root.path);

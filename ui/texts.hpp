@@ -1,7 +1,7 @@
 #pragma once
 
-/// What the window says outside of its page and menu. With the page's sections, menu.cpp and
-/// about.cpp this is every text that people read in the window: a renderer holds none.
+/// The window's texts outside of page and menu. Together with the page's sections, menu.cpp and
+/// about.cpp these are all texts that people read in the window: a renderer holds none.
 namespace kelmar::Texts {
 
 constexpr const char* program = "Kelmar Uninstaller"; ///< also the window's title

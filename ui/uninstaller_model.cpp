@@ -90,7 +90,7 @@ void UninstallerModel::show(Inventory inventory) {
     std::erase_if(published.sizes,
                   [&present](const auto& size) { return !present.contains(size.first); });
     if (std::holds_alternative<Scanning>(published.phase)) {
-        // A second scan's result may come late, when a run has begun: that run is not over.
+        // A second scan may end after a run has begun: it must not change the run's phase.
         published.phase = Ready{};
     }
     std::vector<DataFolder> unmeasured = folders;

@@ -20,13 +20,12 @@ namespace kelmar {
 
 class AdministratorRunner;
 
-/// What the window knows and does, without a toolkit: scans, keeps the person's choice of data,
-/// measures it in the background, runs the engine, and turns what the engine says into rows, a
-/// line and a record. Made through `std::make_shared`, since its jobs hold it until they have
+/// The window's state and actions, without a toolkit: scans, stores the person's choice of data,
+/// measures it in the background, runs the engine, and turns the engine's events into rows, a
+/// current step and a log. Create it with `std::make_shared`: its jobs hold it until they have
 /// reported.
 ///
-/// All operations are called on the main thread; so are the observer and everything that the jobs
-/// hand back.
+/// Call all operations on the main thread; the observer and the jobs' results run there as well.
 class UninstallerModel : public std::enable_shared_from_this<UninstallerModel> {
 public:
     struct Scanning {
@@ -46,7 +45,7 @@ public:
         friend bool operator==(const Finished&, const Finished&) = default;
     };
 
-    /// Where the window stands.
+    /// The window's phase.
     using Phase = std::variant<Scanning, Ready, Working, Finished>;
 
     /// One stage of a run, as it is shown.
@@ -74,31 +73,30 @@ public:
         std::string detail;                        ///< what the engine is doing
         LogLines log;                              ///< of the current or last run
         std::optional<std::string> notice;   ///< about the last attempt, when it was cancelled
-        bool confirmingDataDeletion = false; ///< the question before data is deleted is to be shown
+        bool confirmingDataDeletion = false; ///< the question before data is deleted is shown
         Inventory removed;                   ///< what was there when the run started
         std::vector<DataFolder> deletedData; ///< what was chosen when the run started
 
-        /// The chosen ones of the inventory's data folders, in its order.
+        /// The chosen data folders, in the inventory's order.
         [[nodiscard]] std::vector<DataFolder> selectedFolders() const;
 
-        /// The bytes of all `folders`; absent while one of them is not measured. A sum that does
-        /// not fit is a broken contract.
+        /// The bytes of all `folders`; absent until every one is measured. A sum that overflows is
+        /// a broken contract.
         [[nodiscard]] std::optional<std::int64_t>
         bytes(const std::vector<DataFolder>& folders) const;
 
         friend bool operator==(const Published&, const Published&) = default;
     };
 
-    /// What the model asks of the machine. An empty function stands for the real one:
-    /// `Scanner::scan`, `Scanner::size` and the engine's own choice of runner. Tests put their own
-    /// answers here.
+    /// The model's access to the machine. An empty function means the real one: `Scanner::scan`,
+    /// `Scanner::size` and the engine's own choice of runner. Tests replace them.
     struct Sources {
         std::function<Inventory(const KelmarPaths&)> scan;
         std::function<std::optional<std::int64_t>(const std::string&)> size;
         std::function<std::shared_ptr<AdministratorRunner>(const KelmarPaths&)> administrator;
     };
 
-    /// Starts nothing: see `scan`. `dispatcher` is not null.
+    /// Starts nothing: see `scan`. `dispatcher` must not be null.
     UninstallerModel(KelmarPaths where, std::shared_ptr<Dispatcher> dispatcher);
     UninstallerModel(KelmarPaths where, std::shared_ptr<Dispatcher> dispatcher, Sources sources);
 
@@ -106,20 +104,20 @@ public:
 
     [[nodiscard]] const Published& published() const { return published_; }
 
-    /// A run is going on: nothing may end the program.
+    /// Returns true during a run; nothing may end the program then.
     [[nodiscard]] bool isWorking() const;
 
-    /// `observer` is called before each change of what is published: the change itself is seen
-    /// only after it has returned. One observer; the next call takes its place.
+    /// Calls `observer` before each change of what is published; the new value is visible only
+    /// after `observer` has returned. One observer; the next call replaces it.
     void observe(std::function<void()> observer) { observer_ = std::move(observer); }
 
-    /// Looks at the machine in the background, then shows what is there.
+    /// Scans in the background, then publishes the result.
     void scan();
 
-    /// The main button: asks first when data is to be deleted, else starts at once.
+    /// The main button: asks first if data would be deleted, else starts at once.
     void uninstallClicked();
 
-    /// Starts a run on what is shown and chosen now.
+    /// Starts a run with the current inventory and choice.
     void uninstall();
 
     [[nodiscard]] std::vector<DataFolder> selectedFolders() const {
@@ -140,7 +138,7 @@ public:
     void setConfirmingDataDeletion(bool confirming);
 
 private:
-    /// What is published, to be changed: the observer has been told.
+    /// Notifies the observer and returns the published state for a change.
     Published& change();
     void show(Inventory inventory);
     void measure(std::vector<DataFolder> folders);
@@ -152,7 +150,7 @@ private:
     Sources sources_;
     std::function<void()> observer_ = [] {};
     Published published_;
-    bool scanned_ = false; ///< a scan's result has been shown: the choice is the person's from then
+    bool scanned_ = false; ///< a scan's result was shown: later scans keep the person's choice
 };
 
 } // namespace kelmar

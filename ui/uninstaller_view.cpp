@@ -136,7 +136,7 @@ void UninstallerView::observe(std::function<void()> observer) {
 }
 
 bool UninstallerView::offers(Action action) const {
-    // The footer and the question are made anew rather than the page: a page may list folders.
+    // Computes footer and question only, not the page: a page may list folders.
     if (action == Action::toggleFolders || action == Action::toggleDetails) {
         return true;
     }

@@ -9,11 +9,11 @@
 
 namespace kelmar {
 
-/// What the window shows: a pure function of what the model publishes and of two switches of the
-/// window's own, and the way back from its controls to the model. On the main thread only.
+/// Computes the window's page, a pure function of the model's published state and of two switches
+/// of the window, and passes actions back to the model. Main thread only.
 class UninstallerView {
 public:
-    /// `terminate` asks the application to end, which it refuses while a run is going on.
+    /// `terminate` requests the application's end, which the application refuses during a run.
     UninstallerView(std::shared_ptr<UninstallerModel> shown, std::function<void()> terminate);
 
     const std::shared_ptr<UninstallerModel> model;
@@ -25,15 +25,15 @@ public:
     static Page page(const UninstallerModel::Published& published, const KelmarPaths& paths,
                      bool showFolders, bool showDetails);
 
-    /// Called before each change of what `page` answers. One observer.
+    /// Calls `observer` before each change of `page`. One observer.
     void observe(std::function<void()> observer);
 
-    /// What a button of the page asks for. A press that the page no longer offers, such as the
-    /// second of a double click, does nothing.
+    /// Performs the action of a button. Does nothing if the page no longer offers it, as at the
+    /// second press of a double click.
     void perform(Action action);
 
-    /// The switch for all data, and the check box of one folder. Only while there is a choice: not
-    /// under the confirmation, which has told its size.
+    /// The switch for all data, and the check box of one folder. They have an effect only while
+    /// there is a choice, and not while the confirmation shows its total.
     void setDeleteAllData(bool all);
     void setSelected(const std::string& path, bool selected);
 

@@ -7,7 +7,7 @@
 
 namespace kelmar {
 
-/// What the controls of the window ask for; all that a renderer gives back.
+/// What the window's controls request; the only output of a renderer.
 struct WindowActions {
     std::function<void(Action)> perform;
     std::function<void(bool all)> setDeleteAllData;
