@@ -3,7 +3,7 @@
 
 set -euo pipefail
 
-# Where the project is, whatever folder the caller stands in.
+# The project's folder, whatever the caller's working folder is.
 project=$(cd "$(dirname "${BASH_SOURCE[0]}")/.." && pwd -P)
 
 say() {
@@ -25,7 +25,7 @@ as_root() {
     fi
 }
 
-# Installs those of the Debian packages named that are missing, and says which.
+# Prints which of the named Debian packages are missing, and installs them.
 install_packages() {
     local package missing=()
     command -v dpkg-query >/dev/null ||
@@ -44,7 +44,7 @@ install_packages() {
         "${missing[@]}"
 }
 
-# What each kind of work needs; the scripts that source this file take their pick.
+# The packages for each kind of work; scripts that source this file choose among them.
 # shellcheck disable=SC2034 # used there
 {
     build_packages=(g++ cmake ninja-build libplist-dev)
@@ -62,15 +62,15 @@ install_packages() {
     bench_packages=(libbenchmark-dev findutils coreutils time)
 }
 
-# npm comes with other Node.js packages than Debian's as well; two of them don't go together.
+# npm may also come with another Node.js than Debian's; the two packages conflict.
 install_npm() {
     if ! command -v npm >/dev/null; then
         install_packages npm
     fi
 }
 
-# Fetches what the folder $1 pins by version and by hash into the folder $2, once, and then runs the rest as a command.
-# All is there when the file "complete" in $2, the copy of the description, has been made.
+# Fetches the packages that folder $1 pins by version and hash into folder $2, once, then runs the other arguments as a
+# command. The file "complete" in $2, a copy of the description, marks a finished download.
 fetch_pinned() {
     local description=$1 folder=$2
     shift 2
@@ -80,7 +80,7 @@ fetch_pinned() {
     mkdir -p "$folder"
     rm -f "$folder/complete"
     cp "$description/package.json" "$description/package-lock.json" "$folder/"
-    # What npm keeps for itself stays out of the caller's home, which may not be there to write to.
+    # npm's cache stays out of the caller's home, which may not be writable.
     (cd "$folder" &&
         quietly npm ci --ignore-scripts --no-audit --no-fund --no-update-notifier --cache "$folder/npm")
     rm -rf "$folder/npm"
@@ -88,7 +88,7 @@ fetch_pinned() {
     cp "$description/package-lock.json" "$folder/complete"
 }
 
-# Runs a command quietly: what it printed is shown when it fails, and else only where it warned.
+# Runs a command quietly: prints its output if it fails, or if it contains warnings.
 quietly() {
     local log
     log=$(mktemp "$project/build/log.XXXXXX")
@@ -101,7 +101,7 @@ quietly() {
     rm -f "$log"
 }
 
-# Configures a preset and builds the given targets, or all.
+# Configures a preset and builds the given targets, or all targets.
 build() {
     local preset=$1
     shift
