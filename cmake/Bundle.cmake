@@ -1,6 +1,6 @@
-# The application for the Mac around the executable; included once the executable is a target. On a Mac the target
-# "bundle" makes "Kelmar Uninstaller.app" in the build folder. A cross build makes one architecture's executable
-# alone: scripts/build-macos joins the two and puts the bundle together with the same script.
+# The application bundle around the executable; include it once the executable is a target. On a Mac the target "bundle"
+# makes "Kelmar Uninstaller.app" in the build folder. A cross build makes one architecture's executable only:
+# scripts/build-macos joins the two and assembles the bundle with the same script.
 set(packaging ${PROJECT_SOURCE_DIR}/packaging/macos)
 if(NOT CMAKE_CROSSCOMPILING) # where the toolchain file says it
   set(KELMAR_MACOS_MINIMUM ${CMAKE_OSX_DEPLOYMENT_TARGET})

@@ -1,4 +1,4 @@
-# Holds every include to the plan in Doors.cmake, and keeps toolkits and platforms where they belong. Run as a
+# Checks every include against the plan in Doors.cmake, and keeps toolkits and platforms in their rooms. Run as a
 # script, with SOURCE_DIR set.
 cmake_minimum_required(VERSION 3.25)
 include(${CMAKE_CURRENT_LIST_DIR}/Doors.cmake)
@@ -25,7 +25,7 @@ foreach(room IN LISTS rooms)
         list(APPEND findings "${name}: only ui/qt knows the toolkit: ${toolkit}")
       endif()
     endif()
-    # A Mac's platform sources may ask the frameworks; the system's list of applications is AppKit's.
+    # A Mac's platform sources may use the frameworks; the system's list of applications is AppKit's.
     if(NOT room STREQUAL "ui/appkit" AND NOT name MATCHES "_macos\\.(hpp|mm)$")
       file(STRINGS "${source}" toolkit REGEX "^#(include|import) <(AppKit|Foundation)/")
       if(toolkit)
@@ -38,7 +38,7 @@ foreach(room IN LISTS rooms)
     endif()
   endforeach()
 endforeach()
-# A source in a folder that is no room would be checked by nobody.
+# A source outside of all rooms would not be checked.
 foreach(top IN ITEMS system discovery admin engine app ui)
   file(GLOB_RECURSE all RELATIVE "${SOURCE_DIR}" "${SOURCE_DIR}/${top}/*.[ch]pp" "${SOURCE_DIR}/${top}/*.mm")
   foreach(name IN LISTS all)

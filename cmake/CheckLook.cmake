@@ -1,5 +1,5 @@
-# Holds the two renderers to the lengths of ui/look.hpp: a call that places, pads, rounds or sizes something takes
-# names. 0, and the 2 of both sides and of a half, may stand as they are. Run as a script, with SOURCE_DIR set.
+# Checks that the two renderers take their lengths from ui/look.hpp: a call that places, pads, rounds or sizes something
+# must use names. 0 is allowed, and 2 as the factor of both sides or of a half. Run as a script, with SOURCE_DIR set.
 cmake_minimum_required(VERSION 3.25)
 
 set(calls_ui/qt
@@ -7,10 +7,10 @@ set(calls_ui/qt
     "|setMinimum[A-Z][a-z]+|setMaximum[A-Z][a-z]+|IconLabel|NoteRow|layOutRow|drawRoundedRect|adjusted"
     "|setPointSizeF?|setPixelSize")
 set(calls_ui/appkit "NSMakeRect|NSMakeSize|NSInsetRect")
-# Parts of a message, whose argument ends with the next part.
+# Parts of a message; an argument ends where the next part begins.
 set(parts "systemFontOfSize|SystemFontOfSize|SymbolSize|[pP]ointSize|[xy]Radius|AlphaComponent")
 
-# Lists are divided by semicolons, and not inside brackets: neither may be in a text that becomes one.
+# CMake splits lists at semicolons outside of brackets: replace both in a text that becomes a list.
 string(ASCII 1 end)
 set(findings "")
 foreach(folder IN ITEMS ui/qt ui/appkit)

@@ -1,6 +1,6 @@
-# Holds what the compiled rooms call of each other to the plan in Doors.cmake: a static library links with whatever
-# its users link, so the linker alone would let a room call any other. Run as a script, with NM, and for each room
-# a pair in LIBRARIES: "engine=/path/libkelmar_engine.a".
+# Checks the calls between compiled rooms against the plan in Doors.cmake. A static library links with whatever its
+# users link, so the linker alone would let a room call any other. Run as a script, with NM, and for each room a pair in
+# LIBRARIES: "engine=/path/libkelmar_engine.a".
 cmake_minimum_required(VERSION 3.25)
 include(${CMAKE_CURRENT_LIST_DIR}/Doors.cmake)
 
@@ -19,7 +19,7 @@ foreach(pair IN LISTS LIBRARIES)
   string(REGEX MATCH "^([^=]+)=(.*)$" pair "${pair}")
   list(APPEND libraries ${CMAKE_MATCH_1})
   set(path_${CMAKE_MATCH_1} "${CMAKE_MATCH_2}")
-  # What an inline function of a header left behind in several rooms (W, V) is nobody's.
+  # Inline functions of a header exist in several rooms (W, V) and belong to none.
   symbols("${CMAKE_MATCH_2}" TDBR defined)
   foreach(symbol IN LISTS defined)
     set(owner_${symbol} ${CMAKE_MATCH_1})

@@ -1,5 +1,5 @@
-# Keeps texts that people read in ui/: a literal of a renderer is a name, in lower case and without blanks, or stands
-# below with what it is. Run as a script, with SOURCE_DIR set.
+# Keeps texts that people read in ui/: a literal in a renderer must be a name, in lower case and without blanks, or be
+# listed below with its purpose. Run as a script, with SOURCE_DIR set.
 cmake_minimum_required(VERSION 3.25)
 
 set(names

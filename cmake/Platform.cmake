@@ -1,5 +1,5 @@
-# The platform, as it stands in the names of platform sources: system/process/processes_linux.cpp. Everything that
-# a platform decides for the build is decided here, once.
+# The platform, as in the names of platform sources: system/process/processes_linux.cpp. All platform decisions of the
+# build are in this file.
 if(CMAKE_SYSTEM_NAME STREQUAL "Linux")
   set(KELMAR_PLATFORM linux)
 elseif(CMAKE_SYSTEM_NAME STREQUAL "Darwin")
@@ -13,8 +13,8 @@ else()
   message(FATAL_ERROR "There are no platform sources for ${CMAKE_SYSTEM_NAME} yet.")
 endif()
 
-# Adds the platform's source of each seam to a room: C++, or Objective-C++ where only that will do; where the
-# platform has none, the portable one.
+# Adds the platform's source of each seam to a room: C++, or Objective-C++ if needed; the portable one if the platform
+# has none.
 function(kelmar_platform_sources room)
   foreach(seam IN LISTS ARGN)
     set(found FALSE)
@@ -33,7 +33,7 @@ endfunction()
 
 find_package(Threads REQUIRED)
 
-# What the platform's sources lean on.
+# The libraries that the platform's sources use.
 add_library(kelmar_platform INTERFACE)
 if(KELMAR_PLATFORM STREQUAL "linux")
   # libplist reads property lists. Distributions name the library after its interface version.
@@ -47,6 +47,6 @@ else()
   target_link_libraries(kelmar_platform INTERFACE "-framework Foundation" "-framework AppKit")
 endif()
 
-# Start-up is half as long when the dynamic linker need not relocate the C++ library first, and the
-# executable then runs where that library is older or missing.
+# Start-up takes half as long if the dynamic linker need not relocate the C++ library, and the executable then also runs
+# where that library is older or missing.
 option(KELMAR_STATIC_RUNTIME "Link the C++ runtime into the executable" ON)

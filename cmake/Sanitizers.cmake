@@ -7,6 +7,6 @@ if(KELMAR_SANITIZERS)
 endif()
 
 if(KELMAR_FUZZERS)
-  # What the fuzzer is to explore must tell it which branches were taken.
+  # The fuzzer needs the explored code to report which branches were taken.
   add_compile_options(-fsanitize=fuzzer-no-link)
 endif()

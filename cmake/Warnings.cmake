@@ -1,5 +1,5 @@
-# Warnings stand on every target of ours through this one library. The presets make errors of them where the
-# environment asks for it, as .ci/run does: a stranger's newer compiler may know more of them, and only warns.
+# This library sets the warnings for every target of ours. The presets make them errors if the environment asks for it,
+# as .ci/run does: a newer compiler elsewhere may have more warnings, and must not fail.
 option(KELMAR_WARNINGS_AS_ERRORS "Treat compiler warnings as errors" OFF)
 
 add_library(kelmar_warnings INTERFACE)
