@@ -47,7 +47,7 @@ TEST(MainThreadJobs, LeaveTheEventLoopItsShare) {
     EXPECT_FALSE(jobs.post([&ran] { ++ran; })) << "a turn is on its way";
 }
 
-TEST(MainThreadJobs, RunOneATurnHoweverLongItTakes) {
+TEST(MainThreadJobs, RunOncePerTurnIfOneTakesTooLong) {
     MainThreadJobs jobs;
     int ran = 0;
     const auto slow = [&ran] {

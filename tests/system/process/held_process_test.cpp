@@ -70,7 +70,7 @@ TEST(HeldProcess, IsNotTheOneThatGetsItsNumberLater) {
     EXPECT_EQ(endOf(second), SIGTERM);
 }
 
-TEST(HeldProcess, OfNobodyReachesNobody) {
+TEST(HeldProcess, OfNoRunningProcessSignalsNothing) {
     const pid_t gone = startWaiting();
     ::kill(gone, SIGKILL);
     endOf(gone);

@@ -29,7 +29,7 @@ TEST(HarmlessText, HoldsNoMarkOfADirection) {
     EXPECT_EQ(harmlessText("a\u200Eb\u200Fc\u061Cd"), "a\uFFFDb\uFFFDc\uFFFDd");
 }
 
-TEST(HarmlessText, DoesNotTurnItsDirection) {
+TEST(HarmlessText, HoldsNoCharacterThatTurnsItsDirection) {
     const std::string before = "\xE2\x80";
     const std::string isolate = "\xE2\x81";
     for (int last = 0xAA; last <= 0xAE; ++last) {
