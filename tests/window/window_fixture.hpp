@@ -52,11 +52,11 @@ protected:
     /// and "(disabled)" where that is so.
     [[nodiscard]] Lines page() const;
 
-    /// Whether the page comes to be this, or to show an element like this.
+    /// Waits until the page is this, or shows an element like this.
     [[nodiscard]] testing::AssertionResult becomes(const Lines& expected) const;
     [[nodiscard]] testing::AssertionResult shows(const std::string& line) const;
 
-    /// Whether the keyboard's focus comes to be on this, as "role: name".
+    /// Waits until the keyboard's focus is on this, as "role: name".
     [[nodiscard]] testing::AssertionResult focusIsOn(const std::string& expected) const;
 
     /// Clicks in the middle of an element, once it has come to a rest. Throws when it doesn't.
