@@ -43,8 +43,6 @@ struct IconColumn {
 constexpr IconColumn rowIcons{rowSymbol, rowIcon, columnGap};    ///< of every row in a card
 constexpr IconColumn noteIcons{noteSymbol, noteSymbol, partGap}; ///< of notes and spinners outside
 constexpr int rowTextIndent = cardPadding + rowIcons.width + rowIcons.gap;
-constexpr int foundTextIndent = rowTextIndent;
-constexpr int stageTextIndent = cardPadding + rowSymbol + columnGap;
 constexpr double tintedGround = 0.12; ///< the opacity of a tinted card's ground
 constexpr double tintedEdge = 0.35;   ///< the opacity of its edge
 

@@ -7,7 +7,7 @@ namespace kelmar {
 namespace {
 
 TEST(Look, IndentsTheDividersOfWhatWasFoundBy52) {
-    EXPECT_EQ(Look::foundTextIndent, 52);
+    EXPECT_EQ(Look::rowTextIndent, 52);
 }
 
 TEST(Look, DrawsEveryFocusRingInsideItsControl) {

@@ -33,10 +33,10 @@
 
 - (CGFloat)layOutForWidth:(CGFloat)width {
     using namespace kelmar::Look;
-    const CGFloat text = rowSymbol + partGap;
+    const CGFloat text = noteIcons.width + noteIcons.gap;
     const CGFloat textHeight = [text_ heightForWidth:width - text];
-    const CGFloat height = std::max<CGFloat>(rowSymbol, textHeight);
-    const CGFloat inset = (rowSymbol - spinner) / 2.0;
+    const CGFloat height = std::max<CGFloat>(noteIcons.width, textHeight);
+    const CGFloat inset = (noteIcons.width - spinner) / 2.0;
     kelmar::setFrame(spinner_, NSMakeRect(inset, (height - spinner) / 2, spinner, spinner));
     kelmar::place(text_, text, (height - textHeight) / 2, width - text);
     return height;

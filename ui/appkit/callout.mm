@@ -13,9 +13,8 @@
     self = [super initWithFrame:frame];
     if (self != nil) {
         card_ = [KelmarCardView card];
-        note_ = [KelmarNoteRow rowWithSymbolSize:kelmar::Look::rowSymbol
-                                           style:kelmar::TextStyle::body
-                                            tone:kelmar::TextTone::primary];
+        note_ = [KelmarNoteRow rowWithColumn:kelmar::Look::rowIcons style:kelmar::TextStyle::body
+                                        tone:kelmar::TextTone::primary];
         [self addSubview:card_];
         [card_ addSubview:note_];
     }

@@ -33,9 +33,8 @@
 
 - (void)render:(const kelmar::Footer&)footer {
     const auto makeNote = [] {
-        return [KelmarNoteRow rowWithSymbolSize:kelmar::Look::noteSymbol
-                                          style:kelmar::TextStyle::callout
-                                           tone:kelmar::TextTone::secondary];
+        return [KelmarNoteRow rowWithColumn:kelmar::Look::noteIcons style:kelmar::TextStyle::callout
+                                       tone:kelmar::TextTone::secondary];
     };
     kelmar::renderRows<KelmarNoteRow>(
         self, nil, notes_, footer.notes, makeNote,

@@ -50,7 +50,7 @@
 
 - (CGFloat)layOutForWidth:(CGFloat)width {
     using namespace kelmar::Look;
-    const CGFloat text = foundTextIndent;
+    const CGFloat text = rowTextIndent;
     const CGFloat textWidth = width - text - cardPadding;
     kelmar::setFrame(divider_, NSMakeRect(text, 0, width - text, hairline));
     CGFloat below = kelmar::place(title_, text, rowPadding, textWidth);

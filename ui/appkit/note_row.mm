@@ -2,24 +2,23 @@
 
 #include "system/text/foundation_text_macos.hpp"
 #include "ui/appkit/accessible.h"
-#include "ui/look.hpp"
 
 #include <algorithm>
 
 @implementation KelmarNoteRow
 
-+ (instancetype)rowWithSymbolSize:(CGFloat)size
-                            style:(kelmar::TextStyle)style
-                             tone:(kelmar::TextTone)tone {
-    return [[[self alloc] initWithSymbolSize:size style:style tone:tone] autorelease];
++ (instancetype)rowWithColumn:(kelmar::Look::IconColumn)column
+                        style:(kelmar::TextStyle)style
+                         tone:(kelmar::TextTone)tone {
+    return [[[self alloc] initWithColumn:column style:style tone:tone] autorelease];
 }
 
-- (instancetype)initWithSymbolSize:(CGFloat)size
-                             style:(kelmar::TextStyle)style
-                              tone:(kelmar::TextTone)tone {
+- (instancetype)initWithColumn:(kelmar::Look::IconColumn)column
+                         style:(kelmar::TextStyle)style
+                          tone:(kelmar::TextTone)tone {
     self = [super initWithFrame:NSZeroRect];
     if (self != nil) {
-        symbolSize_ = size;
+        column_ = column;
         icon_ = [KelmarIconView icon];
         text_ = [KelmarTextLabel labelWithStyle:style tone:tone];
         [self addSubview:icon_];
@@ -31,7 +30,7 @@
 - (void)showSymbol:(const std::string&)symbol
               tint:(kelmar::Tint)tint
               text:(const std::string&)text {
-    [icon_ showSymbol:symbol tint:tint pointSize:symbolSize_];
+    [icon_ showSymbol:symbol tint:tint pointSize:column_.icon];
     [text_ showText:text];
 }
 
@@ -46,12 +45,13 @@
 }
 
 - (CGFloat)layOutForWidth:(CGFloat)width {
-    const CGFloat text = symbolSize_ + kelmar::Look::partGap;
+    const CGFloat icon = column_.icon;
+    const CGFloat text = column_.width + column_.gap;
     const CGFloat textHeight = [text_ heightForWidth:width - text];
-    const CGFloat height = std::max(symbolSize_, textHeight);
+    const CGFloat height = std::max(icon, textHeight);
     // A single line stands at the symbol's middle, more of them begin beside it.
-    const CGFloat top = textHeight <= symbolSize_ ? (symbolSize_ - textHeight) / 2 : 0;
-    kelmar::setFrame(icon_, NSMakeRect(0, 0, symbolSize_, symbolSize_));
+    const CGFloat top = textHeight <= icon ? (icon - textHeight) / 2 : 0;
+    kelmar::setFrame(icon_, NSMakeRect((column_.width - icon) / 2, 0, icon, icon));
     kelmar::place(text_, text, top, width - text);
     return height;
 }

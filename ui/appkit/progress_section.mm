@@ -42,13 +42,14 @@
 
 - (CGFloat)layOutForWidth:(CGFloat)width {
     using namespace kelmar::Look;
-    const CGFloat text = rowSymbol + columnGap;
+    const CGFloat text = rowIcons.width + rowIcons.gap;
     const CGFloat textHeight = [title_ heightForWidth:width - text];
     const CGFloat height = std::max<CGFloat>(rowSymbol, textHeight);
     const CGFloat middle = (height - rowSymbol) / 2;
+    const CGFloat left = (rowIcons.width - rowSymbol) / 2.0;
     const CGFloat inset = (rowSymbol - spinner) / 2.0;
-    kelmar::setFrame(icon_, NSMakeRect(0, middle, rowSymbol, rowSymbol));
-    kelmar::setFrame(spinner_, NSMakeRect(inset, middle + inset, spinner, spinner));
+    kelmar::setFrame(icon_, NSMakeRect(left, middle, rowSymbol, rowSymbol));
+    kelmar::setFrame(spinner_, NSMakeRect(left + inset, middle + inset, spinner, spinner));
     kelmar::place(title_, text, (height - textHeight) / 2, width - text);
     return height;
 }
@@ -89,7 +90,7 @@
     }
     // Room for two lines of what is going on, so that the page below stands still meanwhile.
     constexpr CGFloat twoLines = 32;
-    const CGFloat indent = stageTextIndent;
+    const CGFloat indent = rowTextIndent;
     const CGFloat top = below + cardPadding;
     const CGFloat end = kelmar::place(detail_, indent, top, width - indent - cardPadding);
     return std::max(end, top + twoLines) + cardPadding;

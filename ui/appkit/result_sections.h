@@ -1,5 +1,6 @@
 #pragma once
 
+#include "ui/appkit/icon.h"
 #include "ui/appkit/section.h"
 #include "ui/page.hpp"
 
@@ -14,6 +15,7 @@
 
 /// Something that was not removed, and why.
 @interface KelmarProblemRow : KelmarFlippedView {
+    KelmarIconView* sign_;
     KelmarTextLabel* path_;
     KelmarTextLabel* reason_;
     KelmarHairline* divider_;

@@ -21,9 +21,8 @@
 
 - (void)render:(const std::vector<kelmar::SummaryRow>&)rows {
     const auto make = [] {
-        return [KelmarNoteRow rowWithSymbolSize:kelmar::Look::rowSymbol
-                                          style:kelmar::TextStyle::body
-                                           tone:kelmar::TextTone::primary];
+        return [KelmarNoteRow rowWithColumn:kelmar::Look::rowIcons style:kelmar::TextStyle::body
+                                       tone:kelmar::TextTone::primary];
     };
     kelmar::renderRows<KelmarNoteRow>(
         [self card], nil, rows_, rows, make,
@@ -51,11 +50,16 @@
     self = [super initWithFrame:frame];
     if (self != nil) {
         divider_ = [KelmarHairline line];
+        sign_ = [KelmarIconView icon];
+        // The sign at every item's beginning makes a list of what is else a wall of paths.
+        [sign_ showSymbol:"exclamationmark.circle" tint:kelmar::Tint::orange
+                pointSize:kelmar::Look::noteSymbol];
         path_ = [KelmarTextLabel labelWithStyle:kelmar::TextStyle::body
                                            tone:kelmar::TextTone::primary];
         reason_ = [KelmarTextLabel labelWithStyle:kelmar::TextStyle::callout
                                              tone:kelmar::TextTone::secondary];
         [self addSubview:divider_];
+        [self addSubview:sign_];
         [self addSubview:path_];
         [self addSubview:reason_];
     }
@@ -73,10 +77,13 @@
 
 - (CGFloat)layOutForWidth:(CGFloat)width {
     using namespace kelmar::Look;
-    const CGFloat inside = width - 2 * cardPadding;
-    kelmar::setFrame(divider_, NSMakeRect(cardPadding, 0, width - cardPadding, hairline));
-    const CGFloat below = kelmar::place(path_, cardPadding, rowPadding, inside);
-    return kelmar::place(reason_, cardPadding, below + textGap, inside) + rowPadding;
+    const CGFloat text = rowTextIndent;
+    const CGFloat inside = width - text - cardPadding;
+    kelmar::setFrame(divider_, NSMakeRect(text, 0, width - text, hairline));
+    kelmar::setFrame(sign_, NSMakeRect(cardPadding + (rowIcons.width - noteSymbol) / 2.0,
+                                       rowPadding, noteSymbol, noteSymbol));
+    const CGFloat below = kelmar::place(path_, text, rowPadding, inside);
+    return kelmar::place(reason_, text, below + textGap, inside) + rowPadding;
 }
 
 @end

@@ -72,6 +72,7 @@ struct Reader {
         if (content.problems) {
             text(content.problems->title.text);
             for (const ProblemRow& row : content.problems->rows) {
+                symbols.emplace_back("exclamationmark.circle");
                 text(row.path);
                 text(row.reason);
             }
