@@ -15,4 +15,7 @@
 /// Absent: nothing is going on, and the row is hidden.
 - (void)render:(const std::optional<kelmar::Busy>&)busy;
 
+/// The width of the spinner and its text in one line.
+- (CGFloat)naturalWidth;
+
 @end

@@ -31,6 +31,11 @@
     [text_ showText:busy ? busy->text : ""];
 }
 
+- (CGFloat)naturalWidth {
+    using kelmar::Look::noteIcons;
+    return noteIcons.width + noteIcons.gap + [text_ naturalWidth];
+}
+
 - (CGFloat)layOutForWidth:(CGFloat)width {
     using namespace kelmar::Look;
     const CGFloat text = noteIcons.width + noteIcons.gap;

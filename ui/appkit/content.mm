@@ -12,6 +12,7 @@
 
 #include <algorithm>
 #include <array>
+#include <cmath>
 #include <set>
 #include <utility>
 #include <variant>
@@ -32,7 +33,9 @@ struct ContentBlocks {
     KelmarDetailsView* details = nil;
     std::size_t kind = std::variant_npos; ///< of the content that is shown
     bool unfolded = false;                ///< the record takes what is left of the page
-    std::set<KelmarFlippedView*> used;    ///< by the page that is being rendered
+    bool foundNothing = false;            ///< but data: a heading with no card
+    bool foldersShown = false;
+    std::set<KelmarFlippedView*> used; ///< by the page that is being rendered
 
     [[nodiscard]] std::array<KelmarFlippedView*, 9> inOrder() const {
         return {busy, text, notice, found, data, progress, summary, problems, details};
@@ -71,6 +74,8 @@ Block* shown(ContentBlocks& blocks, NSView* column, Block*& block, const Make& m
 - (void)renderWorking:(const kelmar::WorkingContent&)content;
 - (void)renderFinished:(const kelmar::FinishedContent&)content;
 - (void)renderDetails:(const kelmar::Details&)details;
+- (void)revealData;
+- (void)layOutAlone:(KelmarFlippedView*)block width:(CGFloat)width;
 - (void)layOutColumn;
 
 @end
@@ -143,8 +148,13 @@ void renderContent(KelmarContentView* view, const FinishedContent& content) {
         [block setHidden:blocks_->used.contains(block) ? NO : YES];
     }
     [self layOutColumn];
+    const auto* const ready = std::get_if<kelmar::ReadyContent>(&content);
+    const bool folders = ready != nullptr && ready->data && !ready->data->lists.empty();
+    const bool unfolds = !std::exchange(blocks_->foldersShown, folders) && folders;
     if (isAnother) {
         [column_ scrollPoint:NSZeroPoint];
+    } else if (unfolds) {
+        [self revealData];
     }
 }
 
@@ -165,6 +175,7 @@ void renderContent(KelmarContentView* view, const FinishedContent& content) {
     }
     [kelmar::shown(*blocks_, column_, blocks_->found, [] { return [KelmarFoundSection section]; })
         render:content.found];
+    blocks_->foundNothing = content.found.rows.empty();
     if (content.data) {
         const auto make = [actions = actions_] {
             return [KelmarDataSection sectionWithActions:actions];
@@ -195,10 +206,40 @@ void renderContent(KelmarContentView* view, const FinishedContent& content) {
     blocks_->unfolded = details.shown;
 }
 
+/// All of the data section if there is room for it, else from its heading on.
+- (void)revealData {
+    using kelmar::Look::sectionGap;
+    const NSRect seen = [[self contentView] documentVisibleRect];
+    const NSRect data = [blocks_->data frame];
+    const CGFloat place =
+        std::min(NSMinY(data) - sectionGap, NSMaxY(data) + sectionGap - NSHeight(seen));
+    if (place > NSMinY(seen)) {
+        [column_ scrollPoint:NSMakePoint(0, place)];
+    }
+}
+
+/// In the middle of the page.
+- (void)layOutAlone:(KelmarFlippedView*)block width:(CGFloat)width {
+    const NSSize room = [self contentSize];
+    const CGFloat left = std::floor(([self frame].size.width - width) / 2);
+    const CGFloat top = std::floor((room.height - [block layOutForWidth:width]) / 2);
+    const CGFloat below =
+        kelmar::place(block, left, std::max<CGFloat>(kelmar::Look::sectionGap, top), width);
+    kelmar::setFrame(column_, NSMakeRect(0, 0, room.width, std::max(room.height, below)));
+}
+
 /// The blocks that are shown, one below the other. The record of a run, unfolded, takes what is
 /// left of the page; otherwise the column is as high as it needs to be.
 - (void)layOutColumn {
     using namespace kelmar::Look;
+    if (blocks_->used.contains(blocks_->busy)) {
+        [self layOutAlone:blocks_->busy width:[blocks_->busy naturalWidth]];
+        return;
+    }
+    if (blocks_->used.contains(blocks_->text)) {
+        [self layOutAlone:blocks_->text width:[self frame].size.width - 2 * noticeMargin];
+        return;
+    }
     const NSSize room = [self contentSize];
     const CGFloat inside = [self frame].size.width - 2 * pageMargin;
     CGFloat below = 0;
@@ -206,7 +247,9 @@ void renderContent(KelmarContentView* view, const FinishedContent& content) {
         if (block == nil || [block isHidden]) {
             continue;
         }
-        const CGFloat top = below + sectionGap;
+        // A heading with nothing under it keeps no distance of its own.
+        const bool follows = block == blocks_->data && blocks_->foundNothing;
+        const CGFloat top = below + (follows ? lineGap : sectionGap);
         if (block == blocks_->details) {
             [blocks_->details setRoom:blocks_->unfolded ? room.height - top - sectionGap : 0];
         }

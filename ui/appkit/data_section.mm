@@ -9,6 +9,7 @@
 #include "ui/look.hpp"
 
 #include <algorithm>
+#include <cmath>
 
 @implementation KelmarDataSection
 
@@ -101,7 +102,13 @@
     kelmar::setAlignedFrame(folders_,
                             NSMakeRect(cardPadding, below + partGap, button.width, button.height));
     below += partGap + button.height + cardPadding;
+    CGFloat widest = 0;
     for (KelmarFolderList* list in lists_) {
+        widest = std::max(widest, [list nameWidth]);
+    }
+    for (KelmarFolderList* list in lists_) {
+        // A long name leaves the other half to the summaries.
+        [list setNameWidth:std::min(widest, std::floor(inside / 2))];
         below = kelmar::place(list, 0, below, width);
     }
     return below;

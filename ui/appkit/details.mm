@@ -87,10 +87,10 @@
 
 - (CGFloat)layOutForWidth:(CGFloat)width {
     using namespace kelmar::Look;
-    const NSSize triangle = [triangle_ frame].size;
+    const NSSize triangle = kelmar::alignedSize(triangle_);
     const NSSize label = [label_ frame].size;
     const CGFloat height = std::max(triangle.height, label.height);
-    kelmar::setFrame(
+    kelmar::setAlignedFrame(
         triangle_, NSMakeRect(0, (height - triangle.height) / 2, triangle.width, triangle.height));
     kelmar::setFrame(label_, NSMakeRect(triangle.width + disclosureGap, (height - label.height) / 2,
                                         label.width, label.height));

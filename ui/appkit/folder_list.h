@@ -9,7 +9,9 @@
     const kelmar::WindowActions* actions_;
     std::string* path_; ///< its own bytes: a text would have lost some
     NSButton* check_;
-    BOOL isChecked_; ///< as the page says
+    CGFloat nameWidth_; ///< of the whole name with its box
+    CGFloat column_;    ///< the width of the names
+    BOOL isChecked_;    ///< as the page says
     KelmarTextLabel* summary_;
     KelmarSizeLabel* size_;
 }
@@ -19,6 +21,10 @@
 + (instancetype)rowWithActions:(const kelmar::WindowActions*)actions;
 
 - (void)render:(const kelmar::FolderRow&)row;
+
+/// The width of the check box with the whole name, and the width of the column that it is given.
+- (CGFloat)nameWidth;
+- (void)setNameWidth:(CGFloat)width;
 
 @end
 
@@ -36,5 +42,9 @@
 + (instancetype)listWithActions:(const kelmar::WindowActions*)actions;
 
 - (void)render:(const kelmar::FolderList&)list;
+
+/// The widest name, and the column of names; lists one below the other have one column.
+- (CGFloat)nameWidth;
+- (void)setNameWidth:(CGFloat)width;
 
 @end

@@ -24,6 +24,7 @@
         path_ = new std::string;
         check_ = [[[NSButton alloc] initWithFrame:NSZeroRect] autorelease];
         [check_ setButtonType:NSButtonTypeSwitch];
+        [[check_ cell] setLineBreakMode:NSLineBreakByTruncatingMiddle];
         [check_ setTarget:self];
         [check_ setAction:@selector(toggle:)];
         summary_ = [KelmarTextLabel lineWithStyle:kelmar::TextStyle::callout
@@ -49,6 +50,7 @@
     if (![[check_ title] isEqualToString:name]) {
         [check_ setTitle:name];
         [check_ sizeToFit];
+        nameWidth_ = kelmar::alignedSize(check_).width;
     }
     isChecked_ = row.checked ? YES : NO;
     [self showChecked];
@@ -72,12 +74,20 @@
         [actions = actions_, path = *path_, checked] { actions->setSelected(path, checked); });
 }
 
+- (CGFloat)nameWidth {
+    return nameWidth_;
+}
+
+- (void)setNameWidth:(CGFloat)width {
+    column_ = width;
+}
+
 - (CGFloat)layOutForWidth:(CGFloat)width {
     using namespace kelmar::Look;
     const NSSize check = kelmar::alignedSize(check_);
     const CGFloat sizeWidth = [size_ naturalWidth];
-    const CGFloat checkWidth = std::min(check.width, width - sizeWidth - partGap);
-    const CGFloat summary = checkWidth + partGap;
+    const CGFloat checkWidth = std::min(nameWidth_, column_);
+    const CGFloat summary = column_ + partGap;
     const CGFloat summaryWidth = std::max<CGFloat>(0, width - summary - sizeWidth - partGap);
     const CGFloat textHeight = [summary_ heightForWidth:width];
     const CGFloat sizeHeight = [size_ heightForWidth:width];
@@ -129,6 +139,20 @@
         [](KelmarFolderRow* row, const kelmar::FolderRow& record) { [row render:record]; });
     [others_ setHidden:list.otherItems ? NO : YES];
     [others_ showText:list.otherItems.value_or("")];
+}
+
+- (CGFloat)nameWidth {
+    CGFloat widest = 0;
+    for (KelmarFolderRow* row in rows_) {
+        widest = std::max(widest, [row nameWidth]);
+    }
+    return widest;
+}
+
+- (void)setNameWidth:(CGFloat)width {
+    for (KelmarFolderRow* row in rows_) {
+        [row setNameWidth:width];
+    }
 }
 
 - (CGFloat)layOutForWidth:(CGFloat)width {

@@ -79,6 +79,8 @@
 
 - (void)render:(const kelmar::FoundSection&)section {
     [self showTitle:section.title.text];
+    // Over nothing it is a remark rather than a heading.
+    [title_ setTone:section.rows.empty() ? kelmar::TextTone::secondary : kelmar::TextTone::primary];
     kelmar::renderRows<KelmarFoundRow>(
         [self card], nil, rows_, section.rows, [] { return [KelmarFoundRow row]; },
         [](KelmarFoundRow* row, const kelmar::FoundRow& record) { [row render:record]; });

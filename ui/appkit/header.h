@@ -9,6 +9,7 @@
     KelmarIconView* icon_;
     KelmarTextLabel* title_;
     KelmarTextLabel* subtitle_;
+    CGFloat lineOfSubtitle_;
 }
 
 + (instancetype)header;

@@ -21,6 +21,8 @@
         kelmar::setHeading(title_);
         subtitle_ = [KelmarTextLabel labelWithStyle:kelmar::TextStyle::body
                                                tone:kelmar::TextTone::secondary];
+        [subtitle_ showText:"Xg"];
+        lineOfSubtitle_ = [subtitle_ heightForWidth:kelmar::Look::windowWidth];
         [self addSubview:icon_];
         [self addSubview:title_];
         [self addSubview:subtitle_];
@@ -40,8 +42,8 @@
     const CGFloat titleHeight = [title_ heightForWidth:textWidth];
     const CGFloat texts = titleHeight + lineGap + [subtitle_ heightForWidth:textWidth];
     // Room for a subtitle of two lines, so that the page below does not move from phase to phase.
-    const CGFloat inside = std::max<CGFloat>(headerIcon + partGap, texts);
-    const CGFloat height = inside + 2 * sectionGap;
+    const CGFloat room = titleHeight + lineGap + 2 * lineOfSubtitle_;
+    const CGFloat height = std::max({CGFloat{headerIcon}, room, texts}) + 2 * headerPadding;
     kelmar::setFrame(icon_,
                      NSMakeRect(pageMargin, (height - headerIcon) / 2, headerIcon, headerIcon));
     const CGFloat below = kelmar::place(title_, text, (height - texts) / 2, textWidth);

@@ -10,7 +10,8 @@
     self = [super initWithFrame:frame];
     if (self != nil) {
         text_ = [KelmarTextLabel labelWithStyle:kelmar::TextStyle::body
-                                           tone:kelmar::TextTone::primary];
+                                           tone:kelmar::TextTone::secondary];
+        [text_ setAlignment:NSTextAlignmentCenter];
         [self addSubview:text_];
     }
     return self;

@@ -40,10 +40,13 @@
 - (CGFloat)layOutForWidth:(CGFloat)width {
     CGFloat below = 0;
     if (![title_ isHidden]) {
-        below = kelmar::place(title_, 0, 0, width) + kelmar::Look::partGap;
+        below = kelmar::place(title_, 0, 0, width);
     }
     const CGFloat height = [self layOutCardForWidth:width];
     [card_ setHidden:height > 0 ? NO : YES];
+    if (height > 0 && below > 0) {
+        below += kelmar::Look::partGap;
+    }
     kelmar::setFrame(card_, NSMakeRect(0, below, width, height));
     return below + height;
 }

@@ -21,6 +21,8 @@
 /// Shows `text`, which may hold any bytes: what would break the line or turn it is made visible.
 - (void)showText:(const std::string&)text;
 
+- (void)setTone:(kelmar::TextTone)tone;
+
 /// The height that the text takes at this width, and the width of its longest line, in points.
 - (CGFloat)heightForWidth:(CGFloat)width;
 - (CGFloat)naturalWidth;

@@ -39,7 +39,7 @@ NSSize roundedUp(NSSize size) {
         [self setBordered:NO];
         [self setDrawsBackground:NO];
         [self setFont:kelmar::fontOf(style)];
-        [self setTextColor:kelmar::colourOf(tone)];
+        [self setTone:tone];
         [[self cell] setWraps:wraps];
         [[self cell]
             setLineBreakMode:wraps ? NSLineBreakByWordWrapping : NSLineBreakByTruncatingMiddle];
@@ -60,6 +60,13 @@ NSSize roundedUp(NSSize size) {
     if (![[self stringValue] isEqualToString:shown]) {
         [self setStringValue:shown];
         measuredWidth_ = 0;
+    }
+}
+
+- (void)setTone:(kelmar::TextTone)tone {
+    NSColor* const colour = kelmar::colourOf(tone);
+    if (![[self textColor] isEqual:colour]) {
+        [self setTextColor:colour];
     }
 }
 

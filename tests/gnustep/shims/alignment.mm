@@ -3,13 +3,20 @@
 namespace {
 
 constexpr CGFloat pushButtonRoom = 5;
+constexpr CGFloat triangleRoom = 2;
 
 CGFloat roomAround(NSView* view) {
-    const BOOL isButton = [view isKindOfClass:[NSButton class]];
-    return isButton && [static_cast<NSButton*>(view) isBordered] &&
-                   [static_cast<NSButton*>(view) bezelStyle] == NSBezelStyleRounded
-               ? pushButtonRoom
-               : 0;
+    if (![view isKindOfClass:[NSButton class]] || ![static_cast<NSButton*>(view) isBordered]) {
+        return 0;
+    }
+    switch ([static_cast<NSButton*>(view) bezelStyle]) {
+    case NSBezelStyleRounded:
+        return pushButtonRoom;
+    case NSBezelStyleDisclosure:
+        return triangleRoom;
+    default:
+        return 0;
+    }
 }
 
 } // namespace

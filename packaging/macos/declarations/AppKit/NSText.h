@@ -7,9 +7,11 @@
 // Macs with Apple's processors count as their kin do, those with Intel's as they always did.
 typedef NS_ENUM(NSInteger, NSTextAlignment) {
 #if TARGET_ABI_USES_IOS_VALUES
+    NSTextAlignmentCenter = 1,
     NSTextAlignmentRight = 2,
 #else
     NSTextAlignmentRight = 1,
+    NSTextAlignmentCenter = 2,
 #endif
 };
 
