@@ -3,6 +3,7 @@
 #include "tests/gnustep/harness/page_fixture.hpp"
 #include "tests/gnustep/harness/page_texts.hpp"
 #include "tests/gnustep/harness/sample_pages.hpp"
+#include "ui/drawn_text.hpp"
 
 namespace kelmar {
 namespace {
@@ -70,6 +71,32 @@ TEST_F(Names, VeryLongOnesWrapOrAreShortened) {
 TEST_F(Names, LineBreaksControlCharactersAndTurnedDirectionsAreShown) {
     renderWith("a\tb\x1b[31me\xe2\x80\xae"
                "f");
+}
+
+/// A right-to-left name beside an ordinary one, and slashes where a line may break.
+TEST_F(Names, AreDrawnForTheEyeAndReadAloudAsTheyAre) {
+    const std::string name = "~/\u05d0\u05d1/Kelmar";
+    const std::string drawn = drawnText(name);
+    ASSERT_NE(drawn, name);
+    renderWith(name);
+    Page finished = test::problemsPage();
+    std::get<FinishedContent>(finished.content).problems->rows = {{name, name}};
+    render(finished);
+    int labels = 0;
+    for (NSTextField* const label : test::allSeen<NSTextField>(page)) {
+        if (plainText([label stringValue]) == drawn) {
+            EXPECT_EQ(plainText([test::exposed(label) accessibilityValue]), name);
+            ++labels;
+        }
+    }
+    EXPECT_EQ(labels, 2);
+    Page ready = test::foldersPage();
+    std::get<ReadyContent>(ready.content).data->lists.at(0).rows.at(0).name = name;
+    render(ready);
+    NSButton* const check = seen<NSButton>(name);
+    ASSERT_NE(check, nil);
+    EXPECT_EQ(plainText([check title]), drawn);
+    EXPECT_EQ(plainText([test::exposed(check) accessibilityLabel]), name);
 }
 
 TEST_F(Names, OfAHundredRowsScrollInsideThePage) {

@@ -14,6 +14,9 @@ void setAccessible(NSView* view, bool accessible);
 
 void setAccessibleName(NSView* view, const std::string& name);
 
+/// What a text says, where it is drawn with more than that.
+void setAccessibleValue(NSView* view, const std::string& value);
+
 void setAccessibleHelp(NSView* view, const std::string& help);
 
 /// A text that begins a part of the page: screen readers go from one to the next.

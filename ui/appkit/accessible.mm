@@ -32,6 +32,12 @@ void setAccessibleName(NSView* view, const std::string& name) {
     }
 }
 
+void setAccessibleValue(NSView* view, const std::string& value) {
+    for (id each in exposed(view)) {
+        [each setAccessibilityValue:spoken(value)];
+    }
+}
+
 void setAccessibleHelp(NSView* view, const std::string& help) {
     for (id each in exposed(view)) {
         [each setAccessibilityHelp:spoken(help)];

@@ -1,12 +1,12 @@
 #include "ui/appkit/folder_list.h"
 
 #include "system/text/foundation_text_macos.hpp"
-#include "system/text/harmless_text.hpp"
 #include "ui/appkit/accessible.h"
 #include "ui/appkit/from_toolkit.hpp"
 #include "ui/appkit/row_list.h"
 #include "ui/appkit/run_loop_modes.h"
 #include "ui/appkit/state.h"
+#include "ui/drawn_text.hpp"
 #include "ui/look.hpp"
 
 #include <algorithm>
@@ -46,9 +46,10 @@
 
 - (void)render:(const kelmar::FolderRow&)row {
     *path_ = row.path;
-    NSString* const name = kelmar::foundationText(kelmar::harmlessText(row.name));
+    NSString* const name = kelmar::foundationText(kelmar::drawnText(row.name));
     if (![[check_ title] isEqualToString:name]) {
         [check_ setTitle:name];
+        kelmar::setAccessibleName(check_, row.name);
         [check_ sizeToFit];
         nameWidth_ = kelmar::alignedSize(check_).width;
     }

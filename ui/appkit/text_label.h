@@ -19,6 +19,7 @@
 + (instancetype)lineWithStyle:(kelmar::TextStyle)style tone:(kelmar::TextTone)tone;
 
 /// Shows `text`, which may hold any bytes: what would break the line or turn it is made visible.
+/// What is drawn only to guide the lines is not read aloud.
 - (void)showText:(const std::string&)text;
 
 - (void)setTone:(kelmar::TextTone)tone;

@@ -1,9 +1,10 @@
 #include "ui/appkit/text_label.h"
 
 #include "system/text/foundation_text_macos.hpp"
-#include "system/text/harmless_text.hpp"
+#include "ui/appkit/accessible.h"
 #include "ui/appkit/flipped_view.h"
 #include "ui/appkit/fonts.h"
+#include "ui/drawn_text.hpp"
 
 #include <cmath>
 
@@ -56,9 +57,10 @@ NSSize roundedUp(NSSize size) {
 }
 
 - (void)showText:(const std::string&)text {
-    NSString* const shown = kelmar::foundationText(kelmar::harmlessText(text));
+    NSString* const shown = kelmar::foundationText(kelmar::drawnText(text));
     if (![[self stringValue] isEqualToString:shown]) {
         [self setStringValue:shown];
+        kelmar::setAccessibleValue(self, text);
         measuredWidth_ = 0;
     }
 }

@@ -11,7 +11,8 @@ namespace kelmar::test {
 /// All views in `root` that are to be seen, `root` itself first, each before what is inside it.
 std::vector<NSView*> seenViews(NSView* root);
 
-/// What a view shows as text; empty for one that shows none, or only by views inside it.
+/// What a view shows as text, as it is read aloud: what only guides the lines is not in it. Empty
+/// for one that shows none, or only by views inside it.
 std::string textOf(NSView* view);
 
 /// What a screen reader is given for the view: for a control that is drawn by one cell, that cell.

@@ -48,10 +48,14 @@ std::vector<NSView*> seenViews(NSView* root) {
 
 std::string textOf(NSView* view) {
     if ([view isKindOfClass:[NSTextField class]]) {
-        return plainText([static_cast<NSTextField*>(view) stringValue]);
+        NSString* const drawn = [static_cast<NSTextField*>(view) stringValue];
+        NSString* const spoken = [exposed(view) accessibilityValue];
+        return plainText(spoken != nil ? spoken : drawn);
     }
     if ([view isKindOfClass:[NSButton class]]) {
-        return plainText([static_cast<NSButton*>(view) title]);
+        NSString* const drawn = [static_cast<NSButton*>(view) title];
+        NSString* const spoken = [exposed(view) accessibilityLabel];
+        return plainText([drawn length] > 0 && spoken != nil ? spoken : drawn);
     }
     if ([view isKindOfClass:[NSText class]]) {
         return plainText([static_cast<NSText*>(view) string]);

@@ -9,6 +9,7 @@ typedef NSString *NSAccessibilityRole;
 @property (getter=isAccessibilityElement) BOOL accessibilityElement;
 @property (nullable, copy) NSString *accessibilityLabel;
 @property (nullable, copy) NSString *accessibilityHelp;
+@property (nullable, strong) id accessibilityValue;
 @property (nullable, copy) NSAccessibilityRole accessibilityRole;
 @property (getter=isAccessibilityExpanded) BOOL accessibilityExpanded;
 @end
