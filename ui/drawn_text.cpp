@@ -86,4 +86,16 @@ std::string drawnText(std::string_view text) {
     return drawn;
 }
 
+std::string withoutGuides(std::string_view drawn) {
+    std::string plain;
+    for (std::string_view rest = drawn; !rest.empty();) {
+        const std::string_view bytes = firstOf(rest).bytes;
+        rest.remove_prefix(bytes.size());
+        if (bytes != firstStrongIsolate && bytes != popIsolate && bytes != zeroWidthSpace) {
+            plain += bytes;
+        }
+    }
+    return plain;
+}
+
 } // namespace kelmar

@@ -12,4 +12,7 @@ namespace kelmar {
 /// Only for drawing: copy and announce the original text.
 std::string drawnText(std::string_view text);
 
+/// A part of such a text without what only guides its lines.
+std::string withoutGuides(std::string_view drawn);
+
 } // namespace kelmar

@@ -3,6 +3,8 @@
 #include "tests/gnustep/harness/page_fixture.hpp"
 #include "tests/gnustep/harness/page_texts.hpp"
 #include "tests/gnustep/harness/sample_pages.hpp"
+#include "tests/ui/samples.hpp"
+#include "ui/appkit/app_delegate.h"
 #include "ui/drawn_text.hpp"
 
 namespace kelmar {
@@ -97,6 +99,26 @@ TEST_F(Names, AreDrawnForTheEyeAndReadAloudAsTheyAre) {
     ASSERT_NE(check, nil);
     EXPECT_EQ(plainText([check title]), drawn);
     EXPECT_EQ(plainText([test::exposed(check) accessibilityLabel]), name);
+}
+
+/// What was not removed is looked for elsewhere, by its path.
+TEST_F(Names, OfProblemsAreSelectedAndCopiedWithoutWhatGuidesTheirLines) {
+    AppDelegate* const delegate = [[[AppDelegate alloc] initWithPaths:test::machinePaths()
+                                                              sources:{}] autorelease];
+    [window setDelegate:delegate];
+    const std::string name = "~/\u05d0\u05d1/Kelmar";
+    Page finished = test::problemsPage();
+    std::get<FinishedContent>(finished.content).problems->rows = {{name, "it is still there"}};
+    render(finished);
+    NSTextField* const path = seen<NSTextField>(name);
+    ASSERT_TRUE([path isSelectable]);
+    EXPECT_FALSE([path isEditable]);
+    EXPECT_TRUE([seen<NSTextField>("it is still there") isSelectable]);
+    [path selectText:nil];
+    ASSERT_TRUE([NSApp sendAction:@selector(copy:) to:nil from:nil]);
+    EXPECT_EQ(plainText([[NSPasteboard generalPasteboard] stringForType:NSPasteboardTypeString]),
+              name);
+    [window setDelegate:nil];
 }
 
 TEST_F(Names, OfAHundredRowsScrollInsideThePage) {

@@ -4,10 +4,12 @@
 #include "system/text/foundation_text_macos.hpp"
 #include "ui/appkit/confirmation.h"
 #include "ui/appkit/dispatcher.hpp"
+#include "ui/appkit/field_editor.h"
 #include "ui/appkit/from_toolkit.hpp"
 #include "ui/appkit/menu.h"
 #include "ui/appkit/page.h"
 #include "ui/appkit/run_loop_modes.h"
+#include "ui/appkit/text_label.h"
 #include "ui/look.hpp"
 #include "ui/texts.hpp"
 
@@ -28,8 +30,9 @@ struct WindowState {
         [this](const std::string& path, bool selected) { view.setSelected(path, selected); }};
     Retained<NSWindow> window;
     Retained<KelmarConfirmationSheet> sheet;
-    KelmarPageView* page = nil; ///< the window's content
-    bool renderIsDue = false;   ///< in the next turn of the run loop
+    Retained<KelmarFieldEditor> editor; ///< of the labels
+    KelmarPageView* page = nil;         ///< the window's content
+    bool renderIsDue = false;           ///< in the next turn of the run loop
 };
 
 namespace {
@@ -154,6 +157,17 @@ NSWindow* makeWindow() {
 - (NSApplicationTerminateReply)applicationShouldTerminate:(NSApplication*)application {
     static_cast<void>(application);
     return state_->model->isWorking() ? NSTerminateCancel : NSTerminateNow;
+}
+
+- (id)windowWillReturnFieldEditor:(NSWindow*)window toObject:(id)client {
+    static_cast<void>(window);
+    if (![client isKindOfClass:[KelmarTextLabel class]]) {
+        return nil;
+    }
+    if (state_->editor.get() == nil) {
+        state_->editor = kelmar::Retained<KelmarFieldEditor>::retain([KelmarFieldEditor editor]);
+    }
+    return state_->editor.get();
 }
 
 - (BOOL)windowShouldClose:(NSWindow*)window {

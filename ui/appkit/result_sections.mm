@@ -58,6 +58,8 @@
                                            tone:kelmar::TextTone::primary];
         reason_ = [KelmarTextLabel labelWithStyle:kelmar::TextStyle::callout
                                              tone:kelmar::TextTone::secondary];
+        [path_ setSelectable:YES];
+        [reason_ setSelectable:YES];
         [self addSubview:divider_];
         [self addSubview:sign_];
         [self addSubview:path_];

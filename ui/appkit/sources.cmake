@@ -11,6 +11,7 @@ set(appkit_sources
     data_section.mm
     details.mm
     dispatcher.mm
+    field_editor.mm
     flipped_view.mm
     folder_list.mm
     fonts.mm

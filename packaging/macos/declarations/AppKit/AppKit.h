@@ -19,6 +19,7 @@
 #import <AppKit/NSImageView.h>
 #import <AppKit/NSMenu.h>
 #import <AppKit/NSParagraphStyle.h>
+#import <AppKit/NSPasteboard.h>
 #import <AppKit/NSProgressIndicator.h>
 #import <AppKit/NSResponder.h>
 #import <AppKit/NSRunningApplication.h>

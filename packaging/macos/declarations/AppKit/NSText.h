@@ -24,6 +24,9 @@ typedef NS_ENUM(NSInteger, NSTextAlignment) {
 @property NSSize maxSize;
 @property (getter=isHorizontallyResizable) BOOL horizontallyResizable;
 @property (getter=isVerticallyResizable) BOOL verticallyResizable;
+@property (getter=isFieldEditor) BOOL fieldEditor;
+@property (copy) NSString *string;
+@property NSRange selectedRange;
 - (void)scrollRangeToVisible:(NSRange)range;
 - (void)copy:(nullable id)sender;
 - (void)selectAll:(nullable id)sender;

@@ -1,6 +1,7 @@
 // Apple Developer Documentation: AppKit, NSTextView, NSTextStorage, NSTextContainer, NSLayoutManager
 #pragma once
 
+#import <AppKit/NSPasteboard.h>
 #import <AppKit/NSText.h>
 
 @interface NSTextStorage : NSMutableAttributedString
@@ -20,4 +21,6 @@
 @property (nullable, readonly, assign) NSLayoutManager *layoutManager;
 @property (nullable, readonly, assign) NSTextStorage *textStorage;
 @property NSSize textContainerInset;
+@property (nonnull, readonly, copy) NSArray *writablePasteboardTypes;
+- (BOOL)writeSelectionToPasteboard:(nonnull NSPasteboard *)pasteboard type:(nonnull NSPasteboardType)type;
 @end

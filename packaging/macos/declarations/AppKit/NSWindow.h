@@ -38,6 +38,7 @@ typedef NS_ENUM(NSUInteger, NSBackingStoreType) {
 
 @protocol NSWindowDelegate <NSObject>
 @optional
+- (nullable id)windowWillReturnFieldEditor:(NSWindow *)sender toObject:(nullable id)client;
 - (BOOL)windowShouldClose:(NSWindow *)window;
 @end
 

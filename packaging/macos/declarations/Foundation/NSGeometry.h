@@ -49,6 +49,10 @@ static inline CGFloat NSHeight(NSRect rect) {
     return rect.size.height;
 }
 
+static inline CGFloat NSMinY(NSRect rect) {
+    return rect.origin.y;
+}
+
 static inline CGFloat NSMaxY(NSRect rect) {
     return rect.origin.y + rect.size.height;
 }

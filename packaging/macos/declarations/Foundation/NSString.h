@@ -14,6 +14,7 @@ enum : NSStringEncoding {
 @interface NSString : NSObject
 - (nullable instancetype)initWithBytes:(const void *)bytes length:(NSUInteger)length encoding:(NSStringEncoding)encoding;
 - (BOOL)isEqualToString:(NSString *)other;
+- (NSString *)substringWithRange:(NSRange)range;
 - (NSString *)stringByAppendingString:(NSString *)other;
 - (nullable NSData *)dataUsingEncoding:(NSStringEncoding)encoding allowLossyConversion:(BOOL)lossy;
 @end
