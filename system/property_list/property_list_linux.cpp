@@ -72,9 +72,9 @@ struct CloseConverter {
 /// `bytes` converted from `encoding` to UTF-8 by iconv(3); absent if the encoding is unknown or the
 /// bytes are invalid in it.
 std::optional<std::string> utf8From(const std::string& encoding, std::string_view bytes) {
-    const iconv_t opened = ::iconv_open("UTF-8", encoding.c_str());
+    iconv_t opened = ::iconv_open("UTF-8", encoding.c_str());
     // iconv_open(3) reports an error as -1 cast to a pointer.
-    if (opened == reinterpret_cast<iconv_t>(std::intptr_t{-1})) {
+    if (reinterpret_cast<std::intptr_t>(opened) == -1) {
         return std::nullopt;
     }
     const std::unique_ptr<void, CloseConverter> converter(opened);

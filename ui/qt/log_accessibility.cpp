@@ -36,44 +36,48 @@ public:
     void selection(int index, int* start, int* end) const override {
         const auto [from, to] = std::minmax(view_.anchor(), view_.cursor());
         const bool any = index == 0 && from < to;
-        *start = any ? text().offsetOf(from) : 0;
-        *end = any ? text().offsetOf(to) : 0;
+        *start = any ? content().offsetOf(from) : 0;
+        *end = any ? content().offsetOf(to) : 0;
     }
 
     void addSelection(int start, int end) override { setSelection(0, start, end); }
 
     void setSelection(int /*index*/, int start, int end) override {
-        view_.select(text().placeOf(start), text().placeOf(end));
+        view_.select(content().placeOf(start), content().placeOf(end));
     }
 
     void removeSelection(int /*index*/) override { view_.select(view_.cursor(), view_.cursor()); }
 
-    [[nodiscard]] int cursorPosition() const override { return text().offsetOf(view_.cursor()); }
+    [[nodiscard]] int cursorPosition() const override { return content().offsetOf(view_.cursor()); }
 
     void setCursorPosition(int offset) override {
-        const LogText::Place place = text().placeOf(offset);
+        const LogText::Place place = content().placeOf(offset);
         view_.select(place, place);
         scrollToSubstring(offset, offset);
     }
 
+    using QAccessibleWidget::text;
+
     [[nodiscard]] QString text(int start, int end) const override {
-        return text().text(text().placeOf(start), text().placeOf(std::max(start, end)));
+        return content().text(content().placeOf(start), content().placeOf(std::max(start, end)));
     }
 
-    [[nodiscard]] int characterCount() const override { return text().offsetOf(text().end()); }
+    [[nodiscard]] int characterCount() const override {
+        return content().offsetOf(content().end());
+    }
 
     [[nodiscard]] QRect characterRect(int offset) const override {
-        const QRect inside = view_.placeInViewport(text().placeOf(offset));
+        const QRect inside = view_.placeInViewport(content().placeOf(offset));
         return {view_.viewport()->mapToGlobal(inside.topLeft()), inside.size()};
     }
 
     [[nodiscard]] int offsetAtPoint(const QPoint& point) const override {
-        return text().offsetOf(view_.placeAt(view_.viewport()->mapFromGlobal(point)));
+        return content().offsetOf(view_.placeAt(view_.viewport()->mapFromGlobal(point)));
     }
 
     void scrollToSubstring(int start, int /*end*/) override {
-        if (text().lineCount() != 0) {
-            view_.bringIntoSight(text().placeOf(start));
+        if (content().lineCount() != 0) {
+            view_.bringIntoSight(content().placeOf(start));
         }
     }
 
@@ -88,7 +92,7 @@ public:
         *start = 0;
         *end = characterCount();
         if (boundary != QAccessible::NoBoundary) {
-            const LogText::Place place = text().placeOf(offset);
+            const LogText::Place place = content().placeOf(offset);
             const auto [from, to] = around(place, boundary);
             const int line = offset - place.column;
             *start = std::min(line + from, *end);
@@ -99,13 +103,13 @@ public:
 
     [[nodiscard]] QString textBeforeOffset(int offset, QAccessible::TextBoundaryType boundary,
                                            int* start, int* end) const override {
-        textAtOffset(offset, boundary, start, end);
+        static_cast<void>(textAtOffset(offset, boundary, start, end));
         return *start == 0 ? nothing(start, end) : textAtOffset(*start - 1, boundary, start, end);
     }
 
     [[nodiscard]] QString textAfterOffset(int offset, QAccessible::TextBoundaryType boundary,
                                           int* start, int* end) const override {
-        textAtOffset(offset, boundary, start, end);
+        static_cast<void>(textAtOffset(offset, boundary, start, end));
         return *end == characterCount() ? nothing(start, end)
                                         : textAtOffset(*end, boundary, start, end);
     }
@@ -116,7 +120,7 @@ private:
         int to;
     };
 
-    [[nodiscard]] const LogText& text() const { return view_.text(); }
+    [[nodiscard]] const LogText& content() const { return view_.text(); }
 
     static QString nothing(int* start, int* end) {
         *start = -1;
@@ -127,7 +131,8 @@ private:
     /// The unit of text at `place`, within its line and the line feed after it.
     [[nodiscard]] Columns around(LogText::Place place,
                                  QAccessible::TextBoundaryType boundary) const {
-        const QString line = (text().lineCount() == 0 ? QString() : text().line(place.line)) + '\n';
+        const QString line =
+            (content().lineCount() == 0 ? QString() : content().line(place.line)) + '\n';
         const auto whole = static_cast<int>(line.size());
         if (boundary != QAccessible::CharBoundary && boundary != QAccessible::WordBoundary) {
             return {0, whole};
