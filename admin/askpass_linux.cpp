@@ -69,7 +69,8 @@ bool isMeant(const std::vector<std::string>& options) {
 }
 
 int ask(const std::vector<std::string>& options) {
-    const std::string program = std::getenv(behind);
+    const char* const named = std::getenv(behind);
+    const std::string program = named == nullptr ? "" : named;
     if (::access(program.c_str(), X_OK) == 0) {
         printErrorLine(askedLine);
         ::execl(program.c_str(), program.c_str(), options.front().c_str(), nullptr);

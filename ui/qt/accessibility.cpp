@@ -7,6 +7,7 @@
 #include <QAbstractButton>
 #include <QAccessibleWidget>
 #include <QLabel>
+#include <QTimer>
 #include <QVariant>
 
 namespace kelmar {
@@ -87,14 +88,17 @@ public:
         }
         // Queued, so that the screen reader gets its answer first: a click on Quit would keep it
         // from it. Skipped if the button's meaning has changed meanwhile.
-        QMetaObject::invokeMethod(
-            &button(),
-            [&button = button(), text = button().text(), on = button().isChecked()] {
+        auto* const timer = new QTimer(&button());
+        timer->setSingleShot(true);
+        QObject::connect(
+            timer, &QTimer::timeout, &button(),
+            [timer, &button = button(), text = button().text(), on = button().isChecked()] {
+                timer->deleteLater();
                 if (button.text() == text && button.isChecked() == on) {
                     button.click();
                 }
-            },
-            Qt::QueuedConnection);
+            });
+        timer->start(0);
     }
 
 private:
