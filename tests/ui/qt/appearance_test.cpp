@@ -270,7 +270,7 @@ TEST_F(Appearance, TheQuestionDimsThePageOnceAndDrawsItAsItWas) {
     render(test::confirmingPage());
     const QImage after = window.grab().toImage();
     const QColor scrim = Colours(window.palette()).scrim;
-    const double kept = 1 - double{scrim.alphaF()};
+    const double kept = 1 - static_cast<double>(scrim.alphaF());
     // The footer has two buttons; the sheet hangs high above it. Return presses another one now, so
     // that one of them is not highlighted any more.
     const auto* const button = seen<PushButton>("Uninstall");
@@ -410,7 +410,7 @@ TEST(MenuBarLine, AndAllOfTheBarIsDimmedUnderAQuestion) {
     const QColor before = window.menuBar()->grab().toImage().pixelColor(599, 3);
     window.page().render(test::confirmingPage());
     const QColor after = window.menuBar()->grab().toImage().pixelColor(599, 3);
-    const double kept = 1 - double{Colours(window.palette()).scrim.alphaF()};
+    const double kept = 1 - static_cast<double>(Colours(window.palette()).scrim.alphaF());
     EXPECT_NEAR(after.red(), before.red() * kept, 2);
     window.page().render(test::readyPage());
     EXPECT_EQ(window.menuBar()->grab().toImage().pixelColor(599, 3), before);
