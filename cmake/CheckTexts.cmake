@@ -8,6 +8,7 @@ set(names
     "C" # the kind of linkage
     "file " # before a path and
     "symbol " # before a name, so that the two are not taken for each other
+    "Xg" # is measured and never shown
     "AXHeading" # a role, in the toolkit's spelling
     "kelmarAccessibleRole" # properties
     "kelmarAccessiblyExpanded"

@@ -22,6 +22,7 @@ public:
         std::size_t line = 0;
         int column = 0;
 
+        // NOLINTNEXTLINE(modernize-use-nullptr): what the compiler compares is no pointer
         friend auto operator<=>(const Place&, const Place&) = default;
     };
 
