@@ -34,7 +34,8 @@ public:
     [[nodiscard]] int selectionCount() const override { return view_.hasSelection() ? 1 : 0; }
 
     void selection(int index, int* start, int* end) const override {
-        const auto [from, to] = std::minmax(view_.anchor(), view_.cursor());
+        const LogText::Place from = std::min(view_.anchor(), view_.cursor());
+        const LogText::Place to = std::max(view_.anchor(), view_.cursor());
         const bool any = index == 0 && from < to;
         *start = any ? content().offsetOf(from) : 0;
         *end = any ? content().offsetOf(to) : 0;
