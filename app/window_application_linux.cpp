@@ -25,7 +25,6 @@ int complain(const std::string& why) {
 // The window is a module beside the executable, so that the command line neither depends on a
 // toolkit nor loads one. The module itself is linked to be resolved at load (ld(1), -z now); its
 // libraries resolve lazily.
-// below it need not be.
 int runWindowApplication() {
     const std::optional<std::string> path = resourcePath("kelmar-window.so");
     if (!path) {

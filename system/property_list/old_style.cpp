@@ -8,7 +8,7 @@ namespace kelmar {
 
 namespace {
 
-constexpr int levelLimit = 64;
+constexpr int depthLimit = 64;
 
 bool isDigit(char character, int base) {
     const bool decimal = character >= '0' && character < '0' + std::min(base, 10);
@@ -130,10 +130,10 @@ private:
         }
         skipBlank();
         if (take('{')) {
-            return depth < levelLimit && dictionary(depth + 1);
+            return depth < depthLimit && dictionary(depth + 1);
         }
         if (take('(')) {
-            return depth < levelLimit && array(depth + 1);
+            return depth < depthLimit && array(depth + 1);
         }
         if (take('<')) {
             return data();
@@ -227,7 +227,7 @@ std::optional<std::string> stringInOldStylePropertyList(std::string_view text,
 
 bool isModestOldStylePropertyList(std::string_view text) {
     const auto isOpening = [](char character) { return character == '(' || character == '{'; };
-    return std::count_if(text.begin(), text.end(), isOpening) <= levelLimit ||
+    return std::count_if(text.begin(), text.end(), isOpening) <= depthLimit ||
            Reader(text, {}).isSound();
 }
 
