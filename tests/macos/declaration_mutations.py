@@ -45,7 +45,7 @@ def a_value_that_nobody_names(build):
 
 @mutation(checks.nothing_unused)
 def an_inline_function_that_nobody_calls(build):
-    declare(build, "Foundation/NSGeometry.h", "static inline CGFloat NSMinY(NSRect rect) {\n")
+    declare(build, "Foundation/NSGeometry.h", "static inline CGFloat NSMidY(NSRect rect) {\n")
 
 
 @mutation(checks.nothing_unused)
