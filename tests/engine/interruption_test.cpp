@@ -1,12 +1,5 @@
-#include "discovery/scanner.hpp"
-#include "engine/uninstaller.hpp"
-#include "tests/support/mac_tree.hpp"
-#include "tests/support/scripted_runner.hpp"
+#include "tests/engine/run_fixture.hpp"
 #include "tests/support/snapshot.hpp"
-#include "tests/support/temporary_folder.hpp"
-#include "tests/support/transcript.hpp"
-
-#include <gtest/gtest.h>
 
 #include <algorithm>
 #include <filesystem>
@@ -21,21 +14,15 @@ namespace {
 using Lines = std::vector<std::string>;
 using Outcome = Uninstaller::Outcome;
 
-class InterruptedRun : public testing::Test {
+class InterruptedRun : public test::WholeRun {
 protected:
     /// A run that its caller ends once the engine has said `line`.
     Outcome runUntil(const std::string& line, const std::set<std::string>& selected = {}) {
-        Uninstaller engine(tree.paths(), Scanner::scan(tree.paths()), selected, runner);
-        return engine.run(transcript.emit(), [this, line] {
+        return run(selected, [this, line] {
             return std::find(transcript.lines.begin(), transcript.lines.end(), line) !=
                    transcript.lines.end();
         });
     }
-
-    test::TemporaryFolder folder;
-    test::MacTree tree{folder / "t"};
-    std::shared_ptr<test::ScriptedRunner> runner;
-    test::Transcript transcript;
 };
 
 TEST_F(InterruptedRun, EndsTheStepUnderWayAndBeginsNoOther) {

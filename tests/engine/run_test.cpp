@@ -1,12 +1,5 @@
-#include "discovery/scanner.hpp"
-#include "engine/uninstaller.hpp"
-#include "tests/support/mac_tree.hpp"
-#include "tests/support/scripted_runner.hpp"
+#include "tests/engine/run_fixture.hpp"
 #include "tests/support/snapshot.hpp"
-#include "tests/support/temporary_folder.hpp"
-#include "tests/support/transcript.hpp"
-
-#include <gtest/gtest.h>
 
 #include <memory>
 #include <set>
@@ -20,21 +13,11 @@ namespace {
 using Lines = std::vector<std::string>;
 using Outcome = Uninstaller::Outcome;
 
-class Run : public testing::Test {
+class Run : public test::WholeRun {
 protected:
-    [[nodiscard]] Outcome run(const std::set<std::string>& selected = {}) {
-        Uninstaller engine(tree.paths(), Scanner::scan(tree.paths()), selected, runner);
-        return engine.run(transcript.emit());
-    }
-
     [[nodiscard]] std::string mine(const std::string& name) const {
         return tree.paths().dataRoot(Scope::me) + "/" + name;
     }
-
-    test::TemporaryFolder folder;
-    test::MacTree tree{folder / "t"};
-    std::shared_ptr<AdministratorRunner> runner;
-    test::Transcript transcript;
 };
 
 TEST_F(Run, WithoutStagesSendsNoEventAndStillVerifies) {
