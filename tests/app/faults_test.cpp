@@ -41,11 +41,7 @@ protected:
     /// The program with another script beside it than its own.
     [[nodiscard]] test::Program withScript(const std::string& script) const {
         test::Program program = keepData();
-        const fs::path copy = folder / "program/kelmar-uninstaller";
-        fs::create_directories(copy.parent_path());
-        fs::copy_file(program.path, copy, fs::copy_options::overwrite_existing);
-        std::ofstream(folder / "program/uninstall-as-admin.sh") << script;
-        program.path = copy;
+        program.runBeside(script, folder / "program");
         return program;
     }
 

@@ -37,11 +37,7 @@ protected:
 
     [[nodiscard]] test::Program withScript(const std::string& script) const {
         test::Program program = test::uninstaller({"--uninstall", "--delete-data"}, folder / "t");
-        const fs::path copy = folder / "program/kelmar-uninstaller";
-        fs::create_directories(copy.parent_path());
-        fs::copy_file(program.path, copy, fs::copy_options::overwrite_existing);
-        std::ofstream(folder / "program/uninstall-as-admin.sh") << script;
-        program.path = copy;
+        program.runBeside(script, folder / "program");
         return program;
     }
 

@@ -6,6 +6,7 @@
 #include <csignal>
 #include <cstdlib>
 #include <filesystem>
+#include <fstream>
 #include <utility>
 
 #include <fcntl.h>
@@ -18,7 +19,18 @@ namespace kelmar::test {
 
 namespace {
 
+namespace fs = std::filesystem;
 using Clock = std::chrono::steady_clock;
+
+constexpr const char* scriptName = "uninstall-as-admin.sh";
+
+/// Copies a file into the folder `place`. Returns the copy's path.
+fs::path copyTo(const fs::path& file, const fs::path& place) {
+    fs::create_directories(place);
+    const fs::path copy = place / file.filename();
+    fs::copy_file(file, copy, fs::copy_options::overwrite_existing);
+    return copy;
+}
 
 } // namespace
 
@@ -90,15 +102,15 @@ void Program::become(int output, int error) const {
 }
 
 void Program::runAs(uid_t other, const std::string& place) {
-    namespace fs = std::filesystem;
-    const fs::path built = path;
-    fs::create_directories(place);
-    for (const fs::path& file : {built, built.parent_path() / "uninstall-as-admin.sh"}) {
-        fs::copy_file(file, fs::path(place) / file.filename(),
-                      fs::copy_options::overwrite_existing);
-    }
-    path = fs::path(place) / built.filename();
+    const std::string own = copyTo(path, place);
+    copyTo(fs::path(path).parent_path() / scriptName, place);
+    path = own;
     user = other;
+}
+
+void Program::runBeside(const std::string& script, const std::string& place) {
+    path = copyTo(path, place);
+    std::ofstream(fs::path(place) / scriptName) << script;
 }
 
 Program uninstaller(std::vector<std::string> arguments,

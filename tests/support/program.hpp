@@ -38,6 +38,9 @@ struct Program {
     /// may be closed to other users.
     void runAs(uid_t other, const std::string& place);
 
+    /// Lets a copy of the program run, from `place`, with another script beside it than its own.
+    void runBeside(const std::string& script, const std::string& place);
+
     [[nodiscard]] ProgramEnd run() const;
 
     /// Called in a child: replaces it by the program, with these two descriptors as its output and

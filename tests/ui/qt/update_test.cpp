@@ -43,6 +43,15 @@ protected:
     [[nodiscard]] QScrollBar& scroll() const {
         return *window.findChild<QScrollArea*>()->verticalScrollBar();
     }
+
+    /// Unfolds the details of a run with this log, selects a part of it, and scrolls elsewhere.
+    LogView& selectInDetails(const LogLines& log) {
+        render(test::workingPage(log, true));
+        LogView& view = *firstSeen<LogView>();
+        view.select({20, 4}, {25, 3});
+        view.verticalScrollBar()->setValue(15);
+        return view;
+    }
 };
 
 TEST_F(Update, OfTheSamePageDrawsNothing) {
@@ -118,10 +127,7 @@ TEST_F(Update, BeginsANewPhaseAtItsTop) {
 
 TEST_F(Update, KeepsTheSelectionAndThePlaceInTheDetails) {
     LogLines log = test::removedLines(300);
-    render(test::workingPage(log, true));
-    LogView& view = *firstSeen<LogView>();
-    view.select({20, 4}, {25, 3});
-    view.verticalScrollBar()->setValue(15);
+    LogView& view = selectInDetails(log);
     const QString selected = view.selectedText();
     ASSERT_FALSE(selected.isEmpty());
     for (int times = 0; times < 20; ++times) {
@@ -138,10 +144,7 @@ TEST_F(Update, KeepsTheSelectionAndThePlaceInTheDetails) {
 
 TEST_F(Update, KeepsTheSelectionAndThePlaceWhileTheDetailsAreFolded) {
     LogLines log = test::removedLines(300);
-    render(test::workingPage(log, true));
-    LogView& view = *firstSeen<LogView>();
-    view.select({20, 4}, {25, 3});
-    view.verticalScrollBar()->setValue(15);
+    LogView& view = selectInDetails(log);
     const QString selected = view.selectedText();
     render(test::workingPage({}, false));
     ASSERT_FALSE(view.isVisible());

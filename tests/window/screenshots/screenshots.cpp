@@ -80,8 +80,14 @@ protected:
         leave();
     }
 
+    void uninstallWithData() const {
+        press("push button", "Uninstall");
+        ASSERT_TRUE(shows("push button: Uninstall and Delete Data"));
+        press("push button", "Uninstall and Delete Data");
+    }
+
 private:
-    /// Where a Mac has it, and not the box: what is removed there stands in the record.
+    /// Where a Mac has it, and not the box: what is removed there stands in the log.
     void useTheMacsTemporaryFolder() const {
         fs::create_directories(box->outside(temporary));
         for (const auto& entry : fs::directory_iterator(box->outside("/box/tmp"))) {
@@ -185,9 +191,7 @@ TEST_P(Screenshots, Cancelled) {
     box->answerPasswordWith("exit 1\n");
     openOnDesktop();
     waitForSizes();
-    press("push button", "Uninstall");
-    ASSERT_TRUE(shows("push button: Uninstall and Delete Data"));
-    press("push button", "Uninstall and Delete Data");
+    uninstallWithData();
     ASSERT_TRUE(shows("push button: Choose folders"));
     screenshot("cancelled");
 }
@@ -199,9 +203,7 @@ TEST_P(Screenshots, LeftOver) {
     openOnDesktop();
     unblock();
     waitForSizes();
-    press("push button", "Uninstall");
-    ASSERT_TRUE(shows("push button: Uninstall and Delete Data"));
-    press("push button", "Uninstall and Delete Data");
+    uninstallWithData();
     ASSERT_TRUE(shows("heading: Kelmar wasn't completely removed"));
     screenshot("leftover");
 }
@@ -218,9 +220,7 @@ TEST_P(Screenshots, ManyLeftOver) {
     openOnDesktop();
     unblock();
     waitForSizes();
-    press("push button", "Uninstall");
-    ASSERT_TRUE(shows("push button: Uninstall and Delete Data"));
-    press("push button", "Uninstall and Delete Data");
+    uninstallWithData();
     ASSERT_TRUE(shows("heading: Kelmar wasn't completely removed"));
     screen->scrollDown(onScreen().place.centre(), 4);
     leave();
