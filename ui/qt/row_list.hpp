@@ -19,8 +19,11 @@ public:
     template <class Record, class Make>
     void render(const std::vector<Record>& records, const Make& make) {
         while (rows_.size() > records.size()) {
-            delete rows_.back();
+            Row* const last = rows_.back();
             rows_.pop_back();
+            // Its destructor would do so too late: who hears of it must not meet half a row.
+            last->clearFocus();
+            delete last;
         }
         while (rows_.size() < records.size()) {
             rows_.push_back(make(rows_.size()));
