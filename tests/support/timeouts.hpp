@@ -2,22 +2,32 @@
 
 #include <chrono>
 
-#if defined(__SANITIZE_ADDRESS__) || defined(__SANITIZE_THREAD__)
-#define KELMAR_SANITIZED 1
-#elif defined(__has_feature)
-#if __has_feature(address_sanitizer) || __has_feature(thread_sanitizer)
-#define KELMAR_SANITIZED 1
+// gcc defines the first kind of names, clang answers the second kind of questions.
+#ifdef __has_feature
+#define KELMAR_HAS_FEATURE(feature) __has_feature(feature)
+#else
+#define KELMAR_HAS_FEATURE(feature) 0
 #endif
+#if defined(__SANITIZE_ADDRESS__) || KELMAR_HAS_FEATURE(address_sanitizer)
+#define KELMAR_ADDRESS_SANITIZER 1
+#else
+#define KELMAR_ADDRESS_SANITIZER 0
 #endif
-#ifndef KELMAR_SANITIZED
-#define KELMAR_SANITIZED 0
+#if defined(__SANITIZE_THREAD__) || KELMAR_HAS_FEATURE(thread_sanitizer)
+#define KELMAR_THREAD_SANITIZER 1
+#else
+#define KELMAR_THREAD_SANITIZER 0
 #endif
 
 namespace kelmar::test {
 
 /// True if this build has a sanitizer: such a program is several times slower, so that its times
 /// say nothing about the shipped one.
-constexpr bool isSanitized = KELMAR_SANITIZED != 0;
+constexpr bool isSanitized = KELMAR_ADDRESS_SANITIZER != 0 || KELMAR_THREAD_SANITIZER != 0;
+
+/// True if a signal that comes during waitpid(2) is handled only after it: the thread sanitizer
+/// puts signals off until a call that it knows to block.
+constexpr bool putsSignalsOff = KELMAR_THREAD_SANITIZER != 0;
 
 /// The longest time that a program may take to exit when it is told to and is allowed to.
 constexpr std::chrono::milliseconds exitTimeout(isSanitized ? 3'000 : 200);
