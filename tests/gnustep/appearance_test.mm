@@ -1,5 +1,6 @@
 #include "tests/gnustep/harness/page_fixture.hpp"
 #include "tests/gnustep/harness/sample_pages.hpp"
+#include "tests/gnustep/harness/screenshot.hpp"
 #include "ui/appkit/data_section.h"
 #include "ui/appkit/found_section.h"
 #include "ui/appkit/note_row.h"
@@ -32,6 +33,15 @@ protected:
                 }
             }
         }
+    }
+
+    void scrollTo(CGFloat top) const { [[content() documentView] scrollPoint:NSMakePoint(0, top)]; }
+
+    /// A row of the content, `y` below its top, is drawn alike in the margin and in the middle.
+    [[nodiscard]] bool isBlank(CGFloat y) const {
+        NSBitmapImageRep* const pixels = test::drawn(page);
+        const auto row = static_cast<NSInteger>(NSMinY([content() frame]) + y);
+        return [[pixels colorAtX:2 y:row] isEqual:[pixels colorAtX:Look::windowWidth / 2 y:row]];
     }
 
     /// In the middle of what header and footer leave, within a point.
@@ -159,12 +169,24 @@ TEST_F(Appearance, OpeningTheFoldersScrollsThemIntoViewOnce) {
     EXPECT_TRUE(NSContainsRect(seen, [data frame]))
         << "the folders reach to " << NSMaxY([data frame]) << ", and what is seen from "
         << NSMinY(seen) << " to " << NSMaxY(seen);
-    [[content() documentView] scrollPoint:NSZeroPoint];
+    scrollTo(0);
     Page measured = longPage(test::foldersPage());
     std::get<ReadyContent>(measured.content).data->lists.at(0).rows.at(0).size.bytes = 4'000'000;
     render(measured);
     EXPECT_EQ(NSMinY([[content() contentView] documentVisibleRect]), 0)
         << "a size that came moved the page under the reader";
+}
+
+TEST_F(Appearance, ScrolledContentFadesOutBeforeTheLineAtEitherEdge) {
+    render(longPage(test::foldersPage()));
+    scrollTo(60);
+    EXPECT_FALSE(isBlank(Look::scrollVeil + 1)) << "no card is scrolled beneath the header";
+    EXPECT_TRUE(isBlank(0));
+    EXPECT_TRUE(isBlank(NSHeight([content() frame]) - 1));
+    scrollTo(0);
+    const std::vector<KelmarVeil*> veils = test::allSeen<KelmarVeil>(page);
+    ASSERT_EQ(veils.size(), 1U) << "at the top nothing is hidden";
+    EXPECT_EQ(NSMaxY(test::placeInWindow(veils.front())), NSMaxY(test::placeInWindow(content())));
 }
 
 TEST_F(Appearance, TheHeaderIsAsHighForASubtitleOfOneLineAsOfTwo) {

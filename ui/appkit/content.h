@@ -1,6 +1,7 @@
 #pragma once
 
 #include "ui/appkit/flipped_view.h"
+#include "ui/appkit/veil.h"
 #include "ui/page.hpp"
 #include "ui/window_actions.hpp"
 
@@ -17,6 +18,8 @@ struct ContentBlocks;
     const kelmar::WindowActions* actions_;
     kelmar::ContentBlocks* blocks_;
     KelmarFlippedView* column_;
+    KelmarVeil* above_;
+    KelmarVeil* below_;
 }
 
 /// `actions` outlive the view.

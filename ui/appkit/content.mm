@@ -126,8 +126,38 @@ void renderContent(KelmarContentView* view, const FinishedContent& content) {
         [self setHasHorizontalScroller:NO];
         [self setAutohidesScrollers:YES];
         [self setDocumentView:column_];
+        above_ = [self addVeilAtTop:YES];
+        below_ = [self addVeilAtTop:NO];
     }
     return self;
+}
+
+/// Under the scroll bar.
+- (KelmarVeil*)addVeilAtTop:(BOOL)above {
+    KelmarVeil* const veil = [KelmarVeil veilAtTop:above];
+    [veil setHidden:YES];
+    [self addSubview:veil positioned:NSWindowAbove relativeTo:[self contentView]];
+    return veil;
+}
+
+- (void)reflectScrolledClipView:(NSClipView*)clip {
+    [super reflectScrolledClipView:clip];
+    const NSRect seen = [clip documentVisibleRect];
+    [above_ setHidden:NSMinY(seen) <= 0];
+    [below_ setHidden:NSMaxY(seen) >= NSHeight([column_ frame])];
+}
+
+- (void)tile {
+    [super tile];
+    using kelmar::Look::scrollVeil;
+    const NSRect content = [[self contentView] frame];
+    const CGFloat bottom = NSMaxY(content) - scrollVeil;
+    const bool flipped = [self isFlipped];
+    const auto place = [content](KelmarVeil* veil, CGFloat top) {
+        kelmar::setFrame(veil, NSMakeRect(NSMinX(content), top, NSWidth(content), scrollVeil));
+    };
+    place(above_, flipped ? NSMinY(content) : bottom);
+    place(below_, flipped ? bottom : NSMinY(content));
 }
 
 - (void)dealloc {

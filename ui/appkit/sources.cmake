@@ -32,5 +32,6 @@ set(appkit_sources
     section.mm
     size_label.mm
     spinner.mm
-    text_label.mm)
+    text_label.mm
+    veil.mm)
 list(TRANSFORM appkit_sources PREPEND ${CMAKE_CURRENT_LIST_DIR}/)

@@ -13,6 +13,7 @@ NS_ASSUME_NONNULL_BEGIN
 @property (class, readonly, strong) NSColor *systemGreenColor;
 @property (class, readonly, strong) NSColor *systemOrangeColor;
 @property (class, readonly, strong) NSColor *textColor;
+@property (class, readonly, strong) NSColor *windowBackgroundColor;
 - (NSColor *)colorWithAlphaComponent:(CGFloat)alpha;
 - (void)setFill;
 - (void)setStroke;

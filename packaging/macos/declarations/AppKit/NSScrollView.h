@@ -22,6 +22,8 @@ typedef NS_ENUM(NSUInteger, NSBorderType) {
 @property BOOL hasVerticalScroller;
 @property BOOL hasHorizontalScroller;
 @property BOOL autohidesScrollers;
+- (void)reflectScrolledClipView:(NSClipView *)clipView;
+- (void)tile;
 @end
 
 NS_ASSUME_NONNULL_END
