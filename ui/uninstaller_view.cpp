@@ -36,14 +36,14 @@ Header header(const Model::Published& published) {
 }
 
 Details details(const LogLines& log, bool shown) {
-    Details record;
-    record.toggle.text = "Details";
-    record.toggle.action = Action::toggleDetails;
-    record.shown = shown;
+    Details result;
+    result.toggle.text = "Details";
+    result.toggle.action = Action::toggleDetails;
+    result.shown = shown;
     if (shown) {
-        record.log = log;
+        result.log = log;
     }
-    return record;
+    return result;
 }
 
 Content ready(const Model::Published& published, const KelmarPaths& paths, bool showFolders) {

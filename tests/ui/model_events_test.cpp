@@ -13,7 +13,7 @@ using Lines = std::vector<std::string>;
 
 class ModelEvents : public test::ModelFixture {
 protected:
-    /// What a person sees of a run: the rows' states, a letter each, the line and the record.
+    /// What a person sees of a run: the rows' states, a letter each, the line and the log.
     [[nodiscard]] std::string shown() const {
         std::string text;
         for (const Model::StageRow& row : published().stages) {
@@ -68,8 +68,8 @@ TEST_F(ModelEvents, OfTheAdministratorsScriptComeInTheirOrder) {
     scan();
     model->uninstall();
     dispatcher->runOne(dispatcher->initiated);
-    const std::string record = " Removed /a; hello; Could not remove /b: busy;";
-    const std::string all = record + " Removed ~/Kelmar/Store;";
+    const std::string log = " Removed /a; hello; Could not remove /b: busy;";
+    const std::string all = log + " Removed ~/Kelmar/Store;";
     EXPECT_EQ(afterEachStep(), (Lines{
                                    ">-- []",
                                    "+-- []",
@@ -79,10 +79,10 @@ TEST_F(ModelEvents, OfTheAdministratorsScriptComeInTheirOrder) {
                                    "+>- [Removing /a] Removed /a;",
                                    "+>- [Removing /a] Removed /a; hello;",
                                    "+>- [Removing /b] Removed /a; hello;",
-                                   "+>- [Removing /b]" + record,
-                                   "++- []" + record,
-                                   "++> []" + record,
-                                   "++> [Removing ~/Kelmar/Store]" + record,
+                                   "+>- [Removing /b]" + log,
+                                   "++- []" + log,
+                                   "++> []" + log,
+                                   "++> [Removing ~/Kelmar/Store]" + log,
                                    "++> [Removing ~/Kelmar/Store]" + all,
                                    "++> [Removing ~/Kelmar]" + all,
                                    "++> [Removing ~/Kelmar]" + all + " Removed ~/Kelmar;",

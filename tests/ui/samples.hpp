@@ -20,7 +20,7 @@ inline KelmarPaths machinePaths() {
 /// The same for all who only look.
 inline const KelmarPaths machine = machinePaths();
 
-/// A record of so many lines.
+/// A log of so many lines.
 inline LogLines removedLines(int count) {
     LogLines log;
     for (int number = 0; number < count; ++number) {

@@ -132,12 +132,11 @@ TEST_F(WholeUninstall, WithTheKeyboardAlone) {
     screen->press("Tab");
     ASSERT_TRUE(focusIsOn("text: Details"));
     screen->press("Control+a");
-    const std::string record = window().find("text", "Details").text();
-    ASSERT_TRUE(
-        eventually([&] { return window().find("text", "Details").selectedText() == record; }));
-    EXPECT_NE(record.find("Removed ~/Kelmar/Store"), std::string::npos) << record;
+    const std::string log = window().find("text", "Details").text();
+    ASSERT_TRUE(eventually([&] { return window().find("text", "Details").selectedText() == log; }));
+    EXPECT_NE(log.find("Removed ~/Kelmar/Store"), std::string::npos) << log;
     screen->press("Control+c");
-    EXPECT_TRUE(eventually([&] { return screen->clipboard() == record; }));
+    EXPECT_TRUE(eventually([&] { return screen->clipboard() == log; }));
     screen->press("Return");
     expectEnd();
 }

@@ -13,7 +13,7 @@ struct ContentBlocks;
 
 /// The content of the page between header and footer, in one column that scrolls. Every block is
 /// made when it is first needed, then kept, shown and hidden: one that two phases share, such as
-/// the record of a run, lives on from one to the other.
+/// the log of a run, lives on from one to the other.
 @interface KelmarContentView : NSScrollView {
     const kelmar::WindowActions* actions_;
     kelmar::ContentBlocks* blocks_;

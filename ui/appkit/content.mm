@@ -32,7 +32,7 @@ struct ContentBlocks {
     KelmarProblemsSection* problems = nil;
     KelmarDetailsView* details = nil;
     std::size_t kind = std::variant_npos; ///< of the content that is shown
-    bool unfolded = false;                ///< the record takes what is left of the page
+    bool unfolded = false;                ///< the log takes what is left of the page
     bool foundNothing = false;            ///< but data: a heading with no card
     bool foldersShown = false;
     std::set<KelmarFlippedView*> used; ///< by the page that is being rendered
@@ -258,7 +258,7 @@ void renderContent(KelmarContentView* view, const FinishedContent& content) {
     kelmar::setFrame(column_, NSMakeRect(0, 0, room.width, std::max(room.height, below)));
 }
 
-/// The blocks that are shown, one below the other. The record of a run, unfolded, takes what is
+/// The blocks that are shown, one below the other. The log of a run, unfolded, takes what is
 /// left of the page; otherwise the column is as high as it needs to be.
 - (void)layOutColumn {
     using namespace kelmar::Look;

@@ -4,7 +4,7 @@
 #include "ui/appkit/log_view.h"
 #include "ui/window_actions.hpp"
 
-/// The record of a run under the control that unfolds it.
+/// The log of a run under the control that unfolds it.
 @interface KelmarDetailsView : KelmarFlippedView {
     const kelmar::WindowActions* actions_;
     NSButton* triangle_;

@@ -6,7 +6,7 @@
 
 #import <AppKit/AppKit.h>
 
-/// The record of a run: text that grows at its end, to be scrolled, selected and copied. It follows
+/// The log of a run: text that grows at its end, to be scrolled, selected and copied. It follows
 /// its end until somebody scrolls away from it.
 @interface KelmarLogView : NSScrollView {
     NSTextView* text_;

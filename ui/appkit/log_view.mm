@@ -1,7 +1,6 @@
 #include "ui/appkit/log_view.h"
 
 #include "system/text/foundation_text_macos.hpp"
-#include "system/text/harmless_text.hpp"
 #include "ui/appkit/accessible.h"
 #include "ui/appkit/fonts.h"
 #include "ui/look.hpp"
@@ -36,16 +35,7 @@ NSTextView* makeTextView(NSSize size) {
     return text;
 }
 
-/// The lines from `first` on. They may hold names of files, which are somebody else's text.
-std::string harmlessLines(const LogLines& log, std::size_t first) {
-    std::string text;
-    for (std::size_t index = first; index < log.size(); ++index) {
-        text += (index > 0 ? "\n" : "") + harmlessText(log[index]);
-    }
-    return text;
-}
-
-NSAttributedString* recordText(const std::string& text) {
+NSAttributedString* attributedText(const std::string& text) {
     NSDictionary* const attributes = [NSDictionary
         dictionaryWithObjectsAndKeys:fontOf(TextStyle::log), NSFontAttributeName,
                                      [NSColor textColor], NSForegroundColorAttributeName, nil];
@@ -117,7 +107,8 @@ NSAttributedString* recordText(const std::string& text) {
         [storage replaceCharactersInRange:NSMakeRange(0, [storage length]) withString:@""];
     }
     // At the end of the text, where no selection and no line that is seen can be: they stay.
-    [storage appendAttributedString:kelmar::recordText(kelmar::harmlessLines(log, shown_->size()))];
+    const std::string separator = shown_->empty() ? "" : "\n";
+    [storage appendAttributedString:kelmar::attributedText(separator + log.text(shown_->size()))];
     *shown_ = log;
     if (follows) {
         [self scrollToEnd];

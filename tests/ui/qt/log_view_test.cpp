@@ -29,7 +29,7 @@ protected:
         }
     }
 
-    /// A record as long as that of a large removal; as many bytes as the text has.
+    /// A log as long as that of a large removal; as many bytes as the text has.
     static std::size_t longRecord(LogLines& log) {
         std::size_t bytes = 0;
         for (int number = 0; number < 100'000; ++number) {
