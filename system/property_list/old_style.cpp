@@ -8,7 +8,7 @@ namespace kelmar {
 
 namespace {
 
-constexpr int depthLimit = 64;
+constexpr int maximumDepth = 64;
 
 bool isDigit(char character, int base) {
     const bool decimal = character >= '0' && character < '0' + std::min(base, 10);
@@ -130,10 +130,10 @@ private:
         }
         skipBlank();
         if (take('{')) {
-            return depth < depthLimit && dictionary(depth + 1);
+            return depth < maximumDepth && dictionary(depth + 1);
         }
         if (take('(')) {
-            return depth < depthLimit && array(depth + 1);
+            return depth < maximumDepth && array(depth + 1);
         }
         if (take('<')) {
             return data();
@@ -227,7 +227,7 @@ std::optional<std::string> stringInOldStylePropertyList(std::string_view text,
 
 bool isModestOldStylePropertyList(std::string_view text) {
     const auto isOpening = [](char character) { return character == '(' || character == '{'; };
-    return std::count_if(text.begin(), text.end(), isOpening) <= depthLimit ||
+    return std::count_if(text.begin(), text.end(), isOpening) <= maximumDepth ||
            Reader(text, {}).isSound();
 }
 

@@ -6,21 +6,21 @@ namespace kelmar {
 
 namespace {
 
-constexpr std::string_view replacement = "\xEF\xBF\xBD";
+constexpr std::string_view replacementBytes = "\xEF\xBF\xBD";
 
 struct Sequence {
     std::size_t length; ///< bytes in the sequence, or in its maximal subpart if it is ill-formed
     bool wellFormed;
 };
 
-struct Range {
+struct ByteRange {
     unsigned char first;
     unsigned char last;
 };
 
 struct Lead {
     std::size_t length; ///< 0 if no sequence begins with this byte
-    Range second; ///< narrower than 80..BF where overlong forms, surrogates or excess would fit
+    ByteRange second; ///< narrower than 80..BF where overlong forms, surrogates or excess would fit
 };
 
 Lead lead(unsigned char byte) {
@@ -31,15 +31,15 @@ Lead lead(unsigned char byte) {
         return {2, {0x80, 0xBF}};
     }
     if (byte < 0xF0) {
-        const Range second = byte == 0xE0   ? Range{0xA0, 0xBF}
-                             : byte == 0xED ? Range{0x80, 0x9F}
-                                            : Range{0x80, 0xBF};
+        const ByteRange second = byte == 0xE0   ? ByteRange{0xA0, 0xBF}
+                             : byte == 0xED ? ByteRange{0x80, 0x9F}
+                                            : ByteRange{0x80, 0xBF};
         return {3, second};
     }
     if (byte < 0xF5) {
-        const Range second = byte == 0xF0   ? Range{0x90, 0xBF}
-                             : byte == 0xF4 ? Range{0x80, 0x8F}
-                                            : Range{0x80, 0xBF};
+        const ByteRange second = byte == 0xF0   ? ByteRange{0x90, 0xBF}
+                             : byte == 0xF4 ? ByteRange{0x80, 0x8F}
+                                            : ByteRange{0x80, 0xBF};
         return {4, second};
     }
     return {0, {}};
@@ -51,7 +51,7 @@ Sequence sequence(std::string_view bytes) {
     if (length == 0) {
         return {1, false};
     }
-    Range allowed = second;
+    ByteRange allowed = second;
     for (std::size_t index = 1; index < length; ++index) {
         if (index == bytes.size()) {
             return {index, false};
@@ -86,7 +86,7 @@ std::string decodeUtf8(std::string_view bytes) {
             break;
         }
         const Sequence next = sequence(bytes);
-        text.append(next.wellFormed ? bytes.substr(0, next.length) : replacement);
+        text.append(next.wellFormed ? bytes.substr(0, next.length) : replacementBytes);
         bytes.remove_prefix(next.length);
     }
     return text;
@@ -114,7 +114,7 @@ void appendUtf8(std::string& text, char32_t codePoint) {
         append(0xC0 | (codePoint >> 6));
         append(0x80 | (codePoint & 0x3F));
     } else if ((codePoint >= 0xD800 && codePoint < 0xE000) || codePoint > 0x10FFFF) {
-        text.append(replacement);
+        text.append(replacementBytes);
     } else if (codePoint < 0x10000) {
         append(0xE0 | (codePoint >> 12));
         append(0x80 | ((codePoint >> 6) & 0x3F));

@@ -16,7 +16,7 @@ namespace kelmar {
 
 namespace {
 
-constexpr int inside = Look::alertWidth - 2 * Look::alertPadding;
+constexpr int contentWidth = Look::alertWidth - 2 * Look::alertPadding;
 
 /// A card attached to the top of the page.
 class Sheet : public Card {
@@ -36,7 +36,7 @@ ConfirmationOverlay::ConfirmationOverlay(QWidget& page, std::function<void(Actio
       page_(page),
       title_(new TextLabel(TextStyle::sectionTitle, TextTone::primary)),
       message_(new TextLabel(TextStyle::body, TextTone::secondary)),
-      buttons_(new ButtonRow(std::move(perform), inside + Look::focusRoom)) {
+      buttons_(new ButtonRow(std::move(perform), contentWidth + Look::focusRoom)) {
     auto* const box = new Sheet;
     box->setFixedWidth(Look::alertWidth);
     box->rows().setContentsMargins(Look::alertPadding, Look::alertPadding,
