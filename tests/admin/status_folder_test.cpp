@@ -91,7 +91,7 @@ protected:
     static constexpr const char* name = "kelmar-uninstaller-0CD66D61-5F6E-4A3A-9A5B-3A0A5A3F6F0E";
 
     [[nodiscard]] std::string make(const std::string& given = name, int hours = 25) const {
-        const std::string path = folder / given;
+        std::string path = folder / given;
         fs::create_directory(path);
         std::ofstream(path + "/status") << "DOING /Applications/Kelmar.app\n";
         fs::last_write_time(path, fs::file_time_type::clock::now() - std::chrono::hours(hours));

@@ -45,7 +45,9 @@ protected:
 
 const std::string title = "\x1b]0;owned\x07"; // sets the title of a terminal
 const std::string forged = "x\nKelmar isn't on this Mac.";
-const std::string turned = "\xE2\x80\xAEtxt.exe"; // reads from right to left
+// Byte by byte: as text it would turn the lines of this source around as well.
+const std::string rightToLeftOverride{'\xE2', '\x80', '\xAE'};
+const std::string turned = rightToLeftOverride + "txt.exe"; // reads from right to left
 const std::string c1 = "\xC2\x9B"
                        "31m"; // an escape sequence in one character
 
@@ -59,7 +61,7 @@ TEST_F(Terminal, IsNotWrittenToByTheNamesOfFiles) {
     EXPECT_NE(listing.find("x␊Kelmar isn't on this Mac."), std::string::npos) << listing;
     EXPECT_EQ(listing.find('\x1b'), std::string::npos);
     EXPECT_EQ(listing.find("\nKelmar isn't"), std::string::npos);
-    EXPECT_EQ(listing.find("\xE2\x80\xAE"), std::string::npos);
+    EXPECT_EQ(listing.find(rightToLeftOverride), std::string::npos);
     EXPECT_EQ(listing.find("\xC2\x9B"), std::string::npos);
 }
 

@@ -27,7 +27,7 @@ constexpr const char* scriptName = "uninstall-as-admin.sh";
 /// Copies a file into the folder `place`. Returns the copy's path.
 fs::path copyTo(const fs::path& file, const fs::path& place) {
     fs::create_directories(place);
-    const fs::path copy = place / file.filename();
+    fs::path copy = place / file.filename();
     fs::copy_file(file, copy, fs::copy_options::overwrite_existing);
     return copy;
 }

@@ -28,7 +28,7 @@ Swapper::~Swapper() {
 
 int races() {
     const char* const wanted = std::getenv("KELMAR_RACES");
-    return wanted == nullptr ? 20 : std::atoi(wanted);
+    return wanted == nullptr ? 20 : static_cast<int>(std::strtol(wanted, nullptr, 10));
 }
 
 } // namespace kelmar::test

@@ -21,6 +21,7 @@ struct SystemCall {
     std::size_t occurrence = 0; ///< which of its thread's with this number, from 1
 
     bool operator==(const SystemCall&) const = default;
+    // NOLINTNEXTLINE(modernize-use-nullptr): takes the 0 that this compares with for a pointer
     auto operator<=>(const SystemCall&) const = default;
 };
 

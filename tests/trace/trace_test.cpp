@@ -53,6 +53,7 @@ protected:
 
     static std::vector<int> inOrder(const std::map<ThreadPath, int>& counts) {
         std::vector<int> values;
+        values.reserve(counts.size());
         for (const auto& [thread, count] : counts) {
             values.push_back(count);
         }

@@ -47,7 +47,7 @@ int callInThreads(const char* /*argument*/) {
 int callInAChild(const char* times) {
     const pid_t child = ::fork();
     if (child == 0) {
-        call(std::atoi(times));
+        call(static_cast<int>(std::strtol(times, nullptr, 10)));
         ::_exit(4);
     }
     return waitFor(child);

@@ -102,7 +102,7 @@ void Tracer::stopped(pid_t thread, int status) {
 }
 
 void Tracer::born(pid_t thread) {
-    if (threads_.count(thread) != 0) {
+    if (threads_.contains(thread)) {
         resume(thread);
     } else {
         nameless_.insert(thread);

@@ -170,7 +170,9 @@ TEST(PropertyList, XmlIsReadInTheEncodingThatItDeclares) {
 TEST(PropertyList, WhatIsNoSensibleFileHoldsNothing) {
     const test::TemporaryFolder folder;
     ASSERT_EQ(::mkfifo((folder / "pipe").c_str(), 0600), 0);
-    std::ofstream(folder / "enormous") << test::versionRecord("4") << std::string(16'777'216, ' ');
+    std::string enormous = test::versionRecord("4");
+    enormous.resize(enormous.size() + 16'777'216, ' ');
+    std::ofstream(folder / "enormous") << enormous;
     for (const std::string& path : {folder / "missing", folder.path(), folder / "pipe",
                                     folder / "enormous", std::string("/dev/zero")}) {
         EXPECT_EQ(propertyListString(path, key), std::nullopt) << path;

@@ -81,7 +81,7 @@ TEST_F(Focus, ComesIntoSightByAScreenReader) {
 TEST_F(Focus, MovesNothingUnderAMouseThatIsPressed) {
     render(longReadyPage());
     const CheckBox* const last = seen<CheckBox>("Last");
-    QScrollArea* const area = window.findChild<QScrollArea*>();
+    auto* const area = window.findChild<QScrollArea*>();
     const int top = last->mapTo(area->widget(), QPoint()).y();
     scroll().setValue(top + last->height() / 2 - area->viewport()->height());
     const int place = scroll().value();

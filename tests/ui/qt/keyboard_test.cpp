@@ -109,7 +109,7 @@ TEST_F(Keyboard, TheHighlightIsOnTheButtonThatReturnPresses) {
 
 TEST_F(Keyboard, AButtonThatComesToStandForAnotherKeepsNoFocus) {
     render(test::finishedPage());
-    PushButton* const button = seen<PushButton>("Try Again");
+    auto* const button = seen<PushButton>("Try Again");
     button->setFocus();
     render(test::readyPage());
     ASSERT_EQ(button->text(), "Quit");

@@ -53,7 +53,7 @@ const Way ways[] = {
 /// A control changes what it draws only when the page does, however a person uses it.
 class Requests : public test::PageInAWindow, public testing::WithParamInterface<Way> {
 protected:
-    void use(QWidget* control) const {
+    static void use(QWidget* control) {
         ASSERT_NE(control, nullptr);
         GetParam().use(*control);
         settle();
@@ -132,7 +132,7 @@ TEST_F(RequestsOfOneWay, WhatTheQuestionCoversAsksForNothing) {
 
 TEST_F(RequestsOfOneWay, APressThatBeganOnAnotherButtonDoesNothing) {
     render(test::readyPage());
-    PushButton* const button = seen<PushButton>("Quit");
+    auto* const button = seen<PushButton>("Quit");
     QTest::mousePress(button, Qt::LeftButton);
     render(test::finishedPage());
     ASSERT_EQ(button->text(), "Try Again") << "the same widget stands for another button now";
