@@ -32,14 +32,14 @@ Lead lead(unsigned char byte) {
     }
     if (byte < 0xF0) {
         const ByteRange second = byte == 0xE0   ? ByteRange{0xA0, 0xBF}
-                             : byte == 0xED ? ByteRange{0x80, 0x9F}
-                                            : ByteRange{0x80, 0xBF};
+                                 : byte == 0xED ? ByteRange{0x80, 0x9F}
+                                                : ByteRange{0x80, 0xBF};
         return {3, second};
     }
     if (byte < 0xF5) {
         const ByteRange second = byte == 0xF0   ? ByteRange{0x90, 0xBF}
-                             : byte == 0xF4 ? ByteRange{0x80, 0x8F}
-                                            : ByteRange{0x80, 0xBF};
+                                 : byte == 0xF4 ? ByteRange{0x80, 0x8F}
+                                                : ByteRange{0x80, 0xBF};
         return {4, second};
     }
     return {0, {}};
