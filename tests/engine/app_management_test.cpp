@@ -17,7 +17,7 @@ namespace {
 
 using Failures = std::vector<Uninstaller::Failure>;
 
-constexpr const char* settings = "Settings > Apps";
+constexpr const char* settingsPane = "Settings > Apps";
 const std::string advice =
     "log macOS may keep one program from removing another maker's app. Allow Kelmar Uninstaller, "
     "or Terminal if it was started there, in Settings > Apps, and run it again.";
@@ -44,7 +44,7 @@ protected:
     test::MacTree tree{folder / "t"};
     Uninstaller engine = [this] {
         Uninstaller made{tree.paths(), {}, {}};
-        made.appManagement = settings;
+        made.appManagement = settingsPane;
         return made;
     }();
     std::shared_ptr<test::ScriptedRunner> script;

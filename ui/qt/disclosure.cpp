@@ -24,7 +24,7 @@ int chevronLeft() {
     return Look::focusRoom - grown(Look::disclosureBearing);
 }
 
-int textLeft() {
+int captionLeft() {
     return chevronLeft() + chevronSide() + Look::disclosureGap;
 }
 
@@ -52,7 +52,7 @@ void Disclosure::render(const Button& button, bool unfolded) {
 
 QSize Disclosure::sizeHint() const {
     const QFontMetrics metrics(font());
-    return {textLeft() + metrics.horizontalAdvance(text()) + slack + Look::focusRoom,
+    return {captionLeft() + metrics.horizontalAdvance(text()) + slack + Look::focusRoom,
             metrics.height() + slack + 2 * Look::focusRoom};
 }
 
@@ -66,7 +66,7 @@ void Disclosure::paintEvent(QPaintEvent* /*event*/) {
                               isDown() ? colours.text : colours.secondary, chevron,
                               devicePixelRatioF()));
     painter.setPen(colours.text);
-    painter.drawText(rect().adjusted(textLeft(), 0, 0, 0), Qt::AlignLeft | Qt::AlignVCenter,
+    painter.drawText(rect().adjusted(captionLeft(), 0, 0, 0), Qt::AlignLeft | Qt::AlignVCenter,
                      text());
     if (showsFocus(*this)) {
         constexpr int room = Look::focusRoom;
