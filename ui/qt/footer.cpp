@@ -11,7 +11,7 @@ namespace kelmar {
 
 namespace {
 
-constexpr int room = Look::windowWidth - 2 * Look::pageMargin + Look::focusRoom;
+constexpr int contentRoom = Look::windowWidth - 2 * Look::pageMargin + Look::focusRoom;
 
 } // namespace
 
@@ -21,7 +21,7 @@ FooterWidget::FooterWidget(const std::function<void(Action)>& perform, QWidget* 
       noted_(new QVBoxLayout),
       notes_(*noted_),
       busy_(new BusyRow),
-      buttons_(new ButtonRow(perform, room)) {
+      buttons_(new ButtonRow(perform, contentRoom)) {
     row_->setContentsMargins(Look::pageMargin, Look::footerPadding,
                              Look::pageMargin - Look::focusRoom, Look::footerPadding);
     row_->setSpacing(Look::sectionGap);
@@ -46,7 +46,7 @@ void FooterWidget::render(const Footer& footer) {
     busy_->setVisible(footer.busy.has_value());
     busy_->render(footer.busy.value_or(Busy{}));
     buttons_->render(footer.buttons);
-    const bool fits = neededWidth(footer) <= room;
+    const bool fits = neededWidth(footer) <= contentRoom;
     row_->setDirection(fits ? QBoxLayout::LeftToRight : QBoxLayout::TopToBottom);
     row_->setSpacing(fits ? Look::sectionGap : Look::partGap);
 }
