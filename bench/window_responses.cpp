@@ -159,7 +159,7 @@ void measureChanges(PaintedApplication& application, const KelmarPaths& paths) {
     application.stopWatching();
 
     std::printf("\n%zu changes from another thread within %.2f s, %zu times painted, at most %zu "
-                "renders (at most 1) in a turn of the event loop:\n\n",
+                "renders (at most 1) in an iteration of the event loop:\n\n",
                 count, seconds, application.paints(), application.mostRendersInATurn());
     printLatencies("the thread's event", changes.fromThread, " (below 16 ms)");
     printLatencies("the model's change", changes.fromModel, "");
@@ -244,10 +244,10 @@ void measureRecord(PaintedApplication& application, const KelmarPaths& paths) {
     const double text = static_cast<double>(record->textBytes) / mebibyte;
     const double growth = after.residentMiB - before.residentMiB;
     std::printf(
-        "\nA record of %d lines, unfolded, at most %zu renders (at most 1) in a turn of the "
+        "\nA log of %d lines, unfolded, at most %zu renders (at most 1) in an iteration of the "
         "event loop:\n\n",
         LongRecord::lines, application.mostRendersInATurn());
-    std::printf("- longest turn of the event loop %.2f ms, %td of its turns above 16 ms\n",
+    std::printf("- longest iteration of the event loop %.2f ms, %td above 16 ms\n",
                 quantile(turns, 1),
                 std::count_if(turns.begin(), turns.end(), [](double turn) { return turn > 16; }));
     std::printf("- all of it shown %.2f s after its last line was written\n",
