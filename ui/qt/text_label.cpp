@@ -19,6 +19,7 @@ namespace {
 
 constexpr int leastWidth = 16; ///< minimum that a layout may give a label
 constexpr int elidedLines = 2; ///< a longer text loses its middle
+constexpr std::size_t mostSizes = 8;
 
 } // namespace
 
@@ -55,7 +56,7 @@ void TextLabel::showText(const std::string& text) {
     const QString wanted = QString::fromStdString(text);
     if (wanted != this->text()) {
         setText(wanted);
-        measuredWidth_ = -1;
+        forgetSizes();
         updateGeometry();
         explainElision();
         if (button_ != nullptr) {
@@ -81,14 +82,23 @@ QString TextLabel::drawn() const {
     return QString::fromStdString(drawnText(text().toStdString()));
 }
 
+void TextLabel::forgetSizes() {
+    hint_.reset();
+    sizes_.clear();
+}
+
 QSize TextLabel::sizeHint() const {
+    if (hint_) {
+        return *hint_;
+    }
     const QFontMetrics metrics(font());
     // Measured by the layout that draws it: at fractional scales, whole units differ.
     QTextLayout layout(drawn(), font());
     const double height = layOut(layout, QWIDGETSIZE_MAX);
     const int lines = overflow_ == Overflow::elideMiddle ? elidedLines : 1;
-    return {static_cast<int>(std::ceil(layout.maximumWidth())) + 1,
-            lines * std::max(static_cast<int>(height), metrics.height())};
+    hint_.emplace(static_cast<int>(std::ceil(layout.maximumWidth())) + 1,
+                  lines * std::max(static_cast<int>(height), metrics.height()));
+    return *hint_;
 }
 
 QSize TextLabel::minimumSizeHint() const {
@@ -104,13 +114,18 @@ int TextLabel::heightForWidth(int width) const {
     if (overflow_ != Overflow::wrap) {
         return -1;
     }
-    if (width != measuredWidth_) {
-        QTextLayout layout(drawn(), font());
-        const auto height = static_cast<int>(std::ceil(layOut(layout, width)));
-        measuredHeight_ = std::max(height, QFontMetrics(font()).height());
-        measuredWidth_ = width;
+    const auto known = std::find_if(sizes_.begin(), sizes_.end(),
+                                    [width](const QSize& size) { return size.width() == width; });
+    if (known != sizes_.end()) {
+        return known->height();
     }
-    return measuredHeight_;
+    QTextLayout layout(drawn(), font());
+    const auto height = static_cast<int>(std::ceil(layOut(layout, width)));
+    if (sizes_.size() == mostSizes) {
+        sizes_.clear();
+    }
+    sizes_.emplace_back(width, std::max(height, QFontMetrics(font()).height()));
+    return sizes_.back().height();
 }
 
 int TextLabel::lines(const QString& text, int width) const {
@@ -170,7 +185,7 @@ bool TextLabel::event(QEvent* event) {
 
 void TextLabel::changeEvent(QEvent* event) {
     if (event->type() == QEvent::FontChange) {
-        measuredWidth_ = -1;
+        forgetSizes();
     }
     QLabel::changeEvent(event);
 }

@@ -4,7 +4,9 @@
 
 #include <QLabel>
 #include <QTextLayout>
+#include <optional>
 #include <string>
+#include <vector>
 
 class QAbstractButton;
 
@@ -13,7 +15,6 @@ namespace kelmar {
 /// Plain text that never widens the page: it wraps, inside a word if it must, or loses its middle.
 /// File names are data: markup and characters that would turn or break the line are shown
 /// literally.
-/// shows as what it is.
 class TextLabel : public QLabel {
 public:
     enum class Overflow {
@@ -59,13 +60,14 @@ private:
     [[nodiscard]] QString elided() const;
     [[nodiscard]] int lines(const QString& text, int width) const;
     void explainElision();
+    void forgetSizes();
 
     TextTone tone_;
     Overflow overflow_;
     QAbstractButton* button_ = nullptr; ///< the button that it names
-    // Cache of heightForWidth: layouts ask for the same width many times.
-    mutable int measuredWidth_ = -1;
-    mutable int measuredHeight_ = 0;
+    // Caches: for every change of the page, layouts ask for the same few sizes many times.
+    mutable std::optional<QSize> hint_;
+    mutable std::vector<QSize> sizes_; ///< heightForWidth, for the widths asked for last
 };
 
 } // namespace kelmar
