@@ -28,12 +28,14 @@ bool isNeverAnswered(MenuAction action) {
 
 /// Returns true if something responds to the action now.
 bool isAnswered(MenuAction action, const MenuActions& actions) {
+    const LogView* const text = focusedText();
+    const SelectableText* const label = focusedLabel();
     if (action == MenuAction::copy) {
-        return (focusedText() != nullptr && focusedText()->hasSelection()) ||
-               (focusedLabel() != nullptr && !focusedLabel()->selected().isEmpty());
+        return (text != nullptr && text->hasSelection()) ||
+               (label != nullptr && !label->selected().isEmpty());
     }
     if (action == MenuAction::selectAll) {
-        return focusedText() != nullptr || focusedLabel() != nullptr;
+        return text != nullptr || label != nullptr;
     }
     return !isNeverAnswered(action) && actions.offers(action);
 }
