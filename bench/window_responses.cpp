@@ -27,6 +27,7 @@
 #include <variant>
 #include <vector>
 
+#include <malloc.h>
 #include <unistd.h>
 
 namespace kelmar::bench {
@@ -165,6 +166,12 @@ void measureChanges(PaintedApplication& application, const KelmarPaths& paths) {
     printLatencies("the model's change", changes.fromModel, "");
 }
 
+/// What the program has allocated and not freed, in MiB (mallinfo(3)).
+double allocatedMiB() {
+    const struct mallinfo2 info = ::mallinfo2();
+    return static_cast<double>(info.uordblks + info.hblkhd) / (1024 * 1024);
+}
+
 /// Writes a log of 100,000 lines, in portions that grow.
 class LongRecord {
 public:
@@ -214,6 +221,7 @@ void measureRecord(PaintedApplication& application, const KelmarPaths& paths) {
     delegate->view().perform(Action::toggleDetails);
     rest(500ms);
     const MemoryUse before = memoryUse(::getpid());
+    const double allocatedBefore = allocatedMiB();
 
     application.watch(
         *delegate, [] {}, [] {});
@@ -236,6 +244,7 @@ void measureRecord(PaintedApplication& application, const KelmarPaths& paths) {
     probe.stop();
     application.stopWatching();
     const MemoryUse after = memoryUse(::getpid());
+    const double allocatedAfter = allocatedMiB();
     require(published.log.size() == LongRecord::lines &&
                 recordOf(*delegate)->text().lineCount() == LongRecord::lines,
             "every line of the record is shown");
@@ -252,8 +261,10 @@ void measureRecord(PaintedApplication& application, const KelmarPaths& paths) {
                 std::count_if(turns.begin(), turns.end(), [](double turn) { return turn > 16; }));
     std::printf("- all of it shown %.2f s after its last line was written\n",
                 milliseconds(shown - Clock::duration(record->written)) / 1'000);
-    std::printf("- memory grown by %.1f MiB for %.1f MiB of text, %.1f times as much\n", growth,
-                text, growth / text);
+    const double allocated = allocatedAfter - allocatedBefore;
+    std::printf("- allocated memory grown by %.1f MiB for %.1f MiB of text, %.1f times as much; "
+                "resident memory by %.1f MiB\n",
+                allocated, text, allocated / text, growth);
 }
 
 } // namespace
