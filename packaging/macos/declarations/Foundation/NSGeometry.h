@@ -45,8 +45,16 @@ static inline NSRect NSMakeRect(CGFloat x, CGFloat y, CGFloat width, CGFloat hei
     return rect;
 }
 
+static inline CGFloat NSWidth(NSRect rect) {
+    return rect.size.width;
+}
+
 static inline CGFloat NSHeight(NSRect rect) {
     return rect.size.height;
+}
+
+static inline CGFloat NSMinX(NSRect rect) {
+    return rect.origin.x;
 }
 
 static inline CGFloat NSMinY(NSRect rect) {
