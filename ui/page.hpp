@@ -193,6 +193,9 @@ struct Details {
 };
 
 struct ProblemRow {
+    static constexpr const char* symbol = "exclamationmark.circle";
+    static constexpr Tint tint = Tint::orange;
+
     std::string path;
     std::string reason;
 

@@ -52,7 +52,7 @@
         divider_ = [KelmarHairline line];
         sign_ = [KelmarIconView icon];
         // The sign at every item's beginning makes a list of what is else a wall of paths.
-        [sign_ showSymbol:"exclamationmark.circle" tint:kelmar::Tint::orange
+        [sign_ showSymbol:kelmar::ProblemRow::symbol tint:kelmar::ProblemRow::tint
                 pointSize:kelmar::Look::noteSymbol];
         path_ = [KelmarTextLabel labelWithStyle:kelmar::TextStyle::body
                                            tone:kelmar::TextTone::primary];

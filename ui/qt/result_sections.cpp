@@ -34,7 +34,7 @@ ProblemRowWidget::ProblemRowWidget(bool first, QWidget* parent)
     row->setSpacing(Look::rowIcons.gap);
     // The symbol before every item separates the paths visually.
     auto* const sign = new IconLabel(grown(Look::rowIcons.width), lineHeight(TextStyle::body));
-    sign->showSymbol("exclamationmark.circle", Tint::orange, grown(Look::noteSymbol));
+    sign->showSymbol(ProblemRow::symbol, ProblemRow::tint, grown(Look::noteSymbol));
     auto* const texts = new QVBoxLayout;
     texts->setSpacing(Look::textGap);
     texts->addWidget(path_);

@@ -17,9 +17,9 @@ namespace kelmar {
 
 namespace {
 
-constexpr int leastWidth = 16; ///< minimum that a layout may give a label
-constexpr int elidedLines = 2; ///< a longer text loses its middle
-constexpr std::size_t mostSizes = 8;
+constexpr int leastWidth = 16;       ///< minimum that a layout may give a label
+constexpr int elidedLines = 2;       ///< a longer text loses its middle
+constexpr std::size_t mostSizes = 8; ///< a layout asks for no more widths at a time
 
 } // namespace
 
