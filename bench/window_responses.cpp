@@ -173,7 +173,7 @@ double allocatedMiB() {
 }
 
 /// Writes a log of 100,000 lines, in portions that grow.
-class LongRecord {
+class LongLog {
 public:
     static constexpr int lines = 100'000;
 
@@ -201,7 +201,7 @@ public:
     std::atomic<Clock::rep> written{0};
 };
 
-LogView* recordOf(const AppDelegate& delegate) {
+LogView* logViewOf(const AppDelegate& delegate) {
     for (QWidget* const each : delegate.window()->findChildren<QWidget*>()) {
         if (auto* const view = dynamic_cast<LogView*>(each)) {
             return view;
@@ -210,12 +210,12 @@ LogView* recordOf(const AppDelegate& delegate) {
     return nullptr;
 }
 
-void measureRecord(PaintedApplication& application, const KelmarPaths& paths) {
-    const auto record = std::make_shared<LongRecord>();
+void measureLog(PaintedApplication& application, const KelmarPaths& paths) {
+    const auto log = std::make_shared<LongLog>();
     Model::Sources sources = sourcesOf(inventoryOf(paths, Scope::allUsers, 1));
-    sources.administrator = [record](const KelmarPaths&) {
+    sources.administrator = [log](const KelmarPaths&) {
         return std::make_shared<test::ScriptedRunner>(
-            [record](const std::string& statusFile) { record->write(statusFile); });
+            [log](const std::string& statusFile) { log->write(statusFile); });
     };
     const std::unique_ptr<AppDelegate> delegate = openWindow(paths, std::move(sources));
     delegate->view().perform(Action::toggleDetails);
@@ -241,7 +241,7 @@ void measureRecord(PaintedApplication& application, const KelmarPaths& paths) {
     const Model::Published& published = delegate->model->published();
     PaintedApplication::runUntil([&delegate, &published] {
         return std::holds_alternative<Model::Finished>(published.phase) &&
-               recordOf(*delegate)->isComplete();
+               logViewOf(*delegate)->isComplete();
     });
     const Clock::duration shown = Clock::now().time_since_epoch();
     rest(500ms);
@@ -249,21 +249,21 @@ void measureRecord(PaintedApplication& application, const KelmarPaths& paths) {
     application.stopWatching();
     const MemoryUse after = memoryUse(::getpid());
     const double allocatedAfter = allocatedMiB();
-    require(published.log.size() == LongRecord::lines &&
-                recordOf(*delegate)->text().lineCount() == LongRecord::lines,
-            "every line of the record is shown");
+    require(published.log.size() == LongLog::lines &&
+                logViewOf(*delegate)->text().lineCount() == LongLog::lines,
+            "every line of the log is shown");
 
     constexpr double mebibyte = 1024 * 1024;
-    const double text = static_cast<double>(record->textBytes) / mebibyte;
+    const double text = static_cast<double>(log->textBytes) / mebibyte;
     const double growth = after.residentMiB - before.residentMiB;
     std::printf(
         "\nA log of %d lines, unfolded, at most %zu renders (at most 1) in an iteration of the "
         "event loop:\n\n",
-        LongRecord::lines, application.mostRendersInATurn());
+        LongLog::lines, application.mostRendersInATurn());
     std::printf("- longest iteration of the event loop %.2f ms, %d above 16 ms\n", longest,
                 above16);
     std::printf("- all of it shown %.2f s after its last line was written\n",
-                milliseconds(shown - Clock::duration(record->written)) / 1'000);
+                milliseconds(shown - Clock::duration(log->written)) / 1'000);
     const double allocated = allocatedAfter - allocatedBefore;
     std::printf("- allocated memory grown by %.1f MiB for %.1f MiB of text, %.1f times as much; "
                 "resident memory by %.1f MiB\n",
@@ -286,6 +286,6 @@ int main(int count, char** arguments) {
     PaintedApplication application(noArguments, arguments);
     QApplication::setQuitOnLastWindowClosed(false);
     measureChanges(application, paths);
-    measureRecord(application, paths);
+    measureLog(application, paths);
     return EXIT_SUCCESS;
 }
