@@ -156,10 +156,4 @@ void setAccessiblyExpanded(QWidget& widget, bool expanded) {
     QAccessible::updateAccessibility(&event);
 }
 
-void announce(QWidget& widget, const QString& text) {
-    widget.setAccessibleName(text);
-    QAccessibleEvent appeared(&widget, QAccessible::ObjectShow);
-    QAccessible::updateAccessibility(&appeared);
-}
-
 } // namespace kelmar

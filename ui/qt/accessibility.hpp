@@ -21,8 +21,4 @@ void hideFromScreenReaders(QWidget& widget);
 /// Marks it as expandable, with its state; notifies screen readers of a change.
 void setAccessiblyExpanded(QWidget& widget, bool expanded);
 
-/// Makes a screen reader announce `text` now, whatever has the focus. `widget` must have the role
-/// of a notification and show nothing; it gets that name.
-void announce(QWidget& widget, const QString& text);
-
 } // namespace kelmar

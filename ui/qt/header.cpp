@@ -15,7 +15,7 @@ HeaderWidget::HeaderWidget(QWidget* parent)
     : QWidget(parent),
       title_(new TextLabel(TextStyle::title, TextTone::primary)),
       subtitle_(new TextLabel(TextStyle::body, TextTone::secondary)),
-      announcer_(new QWidget(this)) {
+      announcer_(*this) {
     auto* const row = new QHBoxLayout(this);
     row->setContentsMargins(margins(Look::pageMargin, Look::headerPadding));
     row->setSpacing(Look::sectionGap);
@@ -33,8 +33,6 @@ HeaderWidget::HeaderWidget(QWidget* parent)
     setMinimumHeight(2 * Look::headerPadding + lineHeight(TextStyle::title) + Look::lineGap +
                      2 * lineHeight(TextStyle::body));
     setAccessibleRole(*title_, QAccessible::Heading);
-    setAccessibleRole(*announcer_, QAccessible::Notification);
-    announcer_->setGeometry(0, 0, 1, 1);
 }
 
 void HeaderWidget::render(const Header& header) {
@@ -43,7 +41,7 @@ void HeaderWidget::render(const Header& header) {
 }
 
 void HeaderWidget::announce(const std::string& text) {
-    kelmar::announce(*announcer_, QString::fromStdString(text));
+    announcer_.announce(text);
 }
 
 } // namespace kelmar

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "ui/page.hpp"
+#include "ui/qt/announcer.hpp"
 
 #include <QWidget>
 
@@ -21,7 +22,7 @@ public:
 private:
     TextLabel* title_;
     TextLabel* subtitle_;
-    QWidget* announcer_;
+    Announcer announcer_;
 };
 
 } // namespace kelmar

@@ -2,6 +2,7 @@
 set(qt_sources
     about_panel.cpp
     accessibility.cpp
+    announcer.cpp
     app_delegate.cpp
     busy_row.cpp
     button_row.cpp

@@ -20,14 +20,19 @@ protected:
         return QAccessible::queryAccessibleInterface(object)->role();
     }
 
-    /// What a screen reader was told last.
-    [[nodiscard]] std::string said() const {
+    /// What a screen reader was told of last, or null.
+    [[nodiscard]] QWidget* notification() const {
         for (QWidget* const widget : window.findChildren<QWidget*>()) {
-            if (role(widget) == QAccessible::Notification) {
-                return name(widget).toStdString();
+            if (role(widget) == QAccessible::Notification && widget->isVisible()) {
+                return widget;
             }
         }
-        return "nothing";
+        return nullptr;
+    }
+
+    [[nodiscard]] std::string said() const {
+        QWidget* const widget = notification();
+        return widget != nullptr ? name(widget).toStdString() : "nothing";
     }
 
     /// The names of all that is seen, as a screen reader would come upon them.
@@ -143,6 +148,26 @@ TEST_F(Accessibility, TheNoticeOfAnAttemptIsSaidWithItsPage) {
     EXPECT_EQ(said(), "Uninstall Kelmar. Removes the Kelmar app. Nothing was removed.");
     render(test::workingPage());
     EXPECT_EQ(said(), "Uninstalling Kelmar… A few minutes.");
+}
+
+TEST_F(Accessibility, AnAnnouncementKeepsItsTextWhenOthersFollowAtOnce) {
+    render(test::readyPage());
+    std::vector<QWidget*> announced;
+    for (const Page& each : {test::workingPage(), test::finishedPage(), test::readyPage()}) {
+        render(each);
+        ASSERT_NE(notification(), nullptr);
+        announced.push_back(notification());
+    }
+    std::vector<std::string> texts;
+    std::vector<bool> visible;
+    for (QWidget* const each : announced) {
+        texts.push_back(name(each).toStdString());
+        visible.push_back(each->isVisible());
+    }
+    EXPECT_EQ(texts, (std::vector<std::string>{"Uninstalling Kelmar… A few minutes.",
+                                               "Kelmar wasn't completely removed. Restart.",
+                                               "Uninstall Kelmar. Removes the Kelmar app."}));
+    EXPECT_EQ(visible, (std::vector<bool>{false, false, true})) << "only the last can be found";
 }
 
 TEST_F(Accessibility, ADisclosureCanBeUnfoldedAndSaysWhetherItIs) {
