@@ -14,6 +14,7 @@
 #include <utility>
 
 #include <sys/stat.h>
+#include <sys/utsname.h>
 #include <sys/wait.h>
 #include <unistd.h>
 
@@ -22,6 +23,9 @@ namespace kelmar::test {
 namespace {
 
 namespace fs = std::filesystem;
+
+/// `Box::password` as crypt(5) hashes it with SHA-256: `openssl passwd -5 -salt kelmar`.
+constexpr const char* hashOfPassword = "$5$kelmar$1MrLPMdVJzB//kbPbLHEUs3CbyGLoYmfLX6nUltdKb7";
 
 void write(const std::string& path, const std::string& text, fs::perms permissions) {
     fs::create_directories(fs::path(path).parent_path());
@@ -132,7 +136,8 @@ void Box::addKeychainItem(const std::string& service, const std::string& item) c
 }
 
 /// Makes root and the user the only accounts, since this machine may already use the user's name or
-/// number. Gives the user a password and the right to run anything with it.
+/// number. Gives the user the password and the right to run anything with it. The machine's own
+/// name is known: sudo complains of one that it can't resolve.
 void Box::addAccounts() const {
     for (const char* const file : {"/etc/passwd", "/etc/shadow"}) {
         fs::remove(outside(file));
@@ -140,16 +145,14 @@ void Box::addAccounts() const {
     write(outside("/etc/passwd"),
           "root:x:0:0:root:/root:/bin/sh\nann:x:501:501:Ann:/Users/ann/:/bin/sh\n",
           fs::perms(0644));
-    write(outside("/etc/shadow"), "root:*:20000::::::\nann:*:20000::::::\n", fs::perms(0640));
+    write(outside("/etc/shadow"),
+          "root:*:20000::::::\nann:" + std::string(hashOfPassword) + ":20000::::::\n",
+          fs::perms(0640));
     write(outside("/etc/sudoers.d/ann"), "ann ALL=(ALL) ALL\n", fs::perms(0440));
-    Program change;
-    change.path = "/bin/sh";
-    change.arguments = {"-c", std::string("echo 'ann:") + password + "' | /usr/sbin/chpasswd"};
-    change.root = root_;
-    const ProgramEnd end = change.run();
-    if (end.status != 0) {
-        throw std::runtime_error("no password for the box's user: " + end.error);
-    }
+    utsname machine = {};
+    ::uname(&machine);
+    write(outside("/etc/hosts"), std::string("127.0.0.1 ") + machine.nodename + "\n",
+          fs::perms(0644));
 }
 
 Sleeper& Box::start(const std::string& path, uid_t asUser, const std::vector<int>& ignoring,
