@@ -19,7 +19,7 @@ constexpr const char* registryName = "org.a11y.atspi.Registry";
 
 /// An abstract address, see unix(7): it can be reached from another root folder. Whoever comes is
 /// let in without a name, since dbus-daemon(1) turns away users whom this machine doesn't know, and
-/// may say anything to anybody.
+/// may say anything to anybody. As on a session's bus, many calls may be under way at once.
 std::string configuration() {
     return R"(<!DOCTYPE busconfig PUBLIC "-//freedesktop//DTD D-Bus Bus Configuration 1.0//EN"
  "http://www.freedesktop.org/standards/dbus/1.0/busconfig.dtd">
@@ -35,6 +35,7 @@ std::string configuration() {
     <allow send_destination="*" eavesdrop="true"/>
     <allow eavesdrop="true"/>
   </policy>
+  <limit name="max_replies_per_connection">50000</limit>
 </busconfig>
 )";
 }
@@ -103,28 +104,20 @@ AccessibilityBus::AccessibilityBus() {
     constexpr int milliseconds = 60'000;
     atspi_init();
     atspi_set_timeout(milliseconds, milliseconds);
-    // What a program showed a moment ago says nothing about what it shows.
-    atspi_accessible_set_cache_mask(atspi_get_desktop(0), ATSPI_CACHE_NONE);
     answerForTheSession(address_);
 }
 
 // NOLINTNEXTLINE(*-convert-member-functions-to-static): only an instance has made the bus
 Accessible AccessibilityBus::program(pid_t process) const {
     dispatchEvents();
-    AtspiAccessible* const desktop = atspi_get_desktop(0);
-    const int count = atspi_accessible_get_child_count(desktop, nullptr);
-    for (int index = 0; index < count; ++index) {
-        AtspiAccessible* const each = atspi_accessible_get_child_at_index(desktop, index, nullptr);
-        if (each != nullptr &&
-            atspi_accessible_get_process_id(each, nullptr) == static_cast<guint>(process)) {
-            g_object_unref(desktop);
-            return Accessible(each);
-        }
-        if (each != nullptr) {
-            g_object_unref(each);
+    const Accessible desktop(BusObject{registryName, "/org/a11y/atspi/accessible/root"});
+    for (const Accessible& each : desktop.children()) {
+        const BusCall owner({DBUS_SERVICE_DBUS, DBUS_PATH_DBUS}, DBUS_INTERFACE_DBUS,
+                            "GetConnectionUnixProcessID", {each.object().program});
+        if (owner.reply().number() == process) {
+            return each;
         }
     }
-    g_object_unref(desktop);
     return {};
 }
 

@@ -1,14 +1,12 @@
 #pragma once
 
+#include "tests/accessibility/bus_call.hpp"
 #include "tests/screen/geometry.hpp"
 
-#include <memory>
-#include <optional>
 #include <string>
 #include <vector>
 
-struct _AtspiAccessible; // NOLINT(*-reserved-identifier): the name that the library gave
-                         // it
+struct _AtspiEvent; // NOLINT(*-reserved-identifier): the name that the library gave it
 
 namespace kelmar::test {
 
@@ -27,12 +25,25 @@ public:
         modal = 1U << 7U,
     };
 
+    /// The answers to what is asked most.
+    struct Summary {
+        std::string role;
+        std::string name;
+        unsigned states = 0;
+        Rectangle place;
+        std::vector<Accessible> children;
+    };
+
     Accessible() = default;
 
-    /// Takes the reference over.
-    explicit Accessible(_AtspiAccessible* object);
+    explicit Accessible(BusObject object) : object_(std::move(object)) {}
 
-    explicit operator bool() const { return object_ != nullptr; }
+    /// What an event is about.
+    explicit Accessible(const _AtspiEvent& event);
+
+    explicit operator bool() const { return !object_.path.empty(); }
+
+    [[nodiscard]] const BusObject& object() const { return object_; }
 
     [[nodiscard]] std::string role() const;
     [[nodiscard]] std::string name() const;
@@ -59,14 +70,17 @@ public:
 
     [[nodiscard]] std::vector<Accessible> children() const;
 
-    /// Everything below it, each before what is below that, without what is hidden on purpose.
+    /// Asks all `elements` at once.
+    static std::vector<Summary> summaries(const std::vector<Accessible>& elements);
+
+    /// Everything below it, each level after the one above, without what is hidden on purpose.
     [[nodiscard]] std::vector<Accessible> everything() const;
 
     /// The first of them with this role and name.
     [[nodiscard]] Accessible find(const std::string& role, const std::string& name) const;
 
 private:
-    std::shared_ptr<_AtspiAccessible> object_;
+    BusObject object_;
 };
 
 } // namespace kelmar::test

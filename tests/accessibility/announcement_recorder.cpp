@@ -24,7 +24,7 @@ AnnouncementRecorder::~AnnouncementRecorder() {
 
 void AnnouncementRecorder::onEvent(_AtspiEvent* event, void* self) {
     if (event->detail1 != 0) {
-        const Accessible source(ATSPI_ACCESSIBLE(g_object_ref(event->source)));
+        const Accessible source(*event);
         const std::string role = source.role();
         if (role == "notification" || role == "alert") {
             static_cast<AnnouncementRecorder*>(self)->announcements_.push_back(role + ": " +

@@ -25,8 +25,7 @@ Accessible FocusTracker::element() const {
 
 void FocusTracker::onEvent(_AtspiEvent* event, void* self) {
     if (event->detail1 != 0) {
-        static_cast<FocusTracker*>(self)->latest_ =
-            Accessible(ATSPI_ACCESSIBLE(g_object_ref(event->source)));
+        static_cast<FocusTracker*>(self)->latest_ = Accessible(*event);
     }
     g_boxed_free(ATSPI_TYPE_EVENT, event);
 }
