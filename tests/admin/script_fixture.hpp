@@ -22,7 +22,8 @@ protected:
     /// Another user, whom every system has: nobody.
     static constexpr uid_t foreigner = 65534;
 
-    Script() {
+    explicit Script(TemporaryFolder::Storage storage = TemporaryFolder::Storage::disk)
+        : folder(storage) {
         tree.file(status);
         std::filesystem::permissions(status, std::filesystem::perms(0600));
     }

@@ -11,6 +11,8 @@ namespace {
 /// What others own among the files of the user who asks.
 class ScriptOnAHome : public test::Script {
 protected:
+    using Script::Script;
+
     void SetUp() override {
         if (::getuid() != 0) {
             GTEST_SKIP() << "only root can give a file to another user";
@@ -83,7 +85,12 @@ TEST_F(ScriptOnAHome, EachForeignThingHasItsOwnLinesAndItsOwnReason) {
     EXPECT_EQ(pairs[2], std::pair("DOING " + within + "z", "OK " + within + "z"));
 }
 
-TEST_F(ScriptOnAHome, ThousandsOfForeignThingsGoOneAfterAnother) {
+class ScriptOnALargeHome : public ScriptOnAHome {
+protected:
+    ScriptOnALargeHome() : ScriptOnAHome(test::TemporaryFolder::Storage::memory) {}
+};
+
+TEST_F(ScriptOnALargeHome, ThousandsOfForeignThingsGoOneAfterAnother) {
     constexpr int count = 5000;
     tree.file(home("/Library/Kelmar/own"));
     for (int number = 0; number < count; ++number) {

@@ -1,5 +1,5 @@
 #include "discovery/scanner.hpp"
-#include "system/text/byte_count.hpp"
+#include "discovery/size_in_words.hpp"
 #include "tests/support/mac_tree.hpp"
 #include "tests/support/program.hpp"
 #include "tests/support/temporary_folder.hpp"
@@ -27,7 +27,7 @@ protected:
     [[nodiscard]] std::string line(const std::string& column, Scope scope,
                                    const std::string& name) const {
         const std::string path = tree.paths().dataRoot(scope) + "/" + name;
-        return "    " + column + " " + byteCountText(Scanner::size(path).value()) + "\n";
+        return "    " + column + " " + sizeInWords(Scanner::size(path), "?") + "\n";
     }
 
     test::TemporaryFolder folder;

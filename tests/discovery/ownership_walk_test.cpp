@@ -69,7 +69,7 @@ TEST(OwnershipWalk, AgreesWithThePlainWalkOnRandomTrees) {
     const bool canGiveAway = ::getuid() == 0;
     int foreignTrees = 0;
     for (unsigned seed = 0; seed < 60; ++seed) {
-        const test::TemporaryFolder folder;
+        const test::TemporaryFolder folder(test::TemporaryFolder::Storage::memory);
         std::mt19937 random(seed);
         std::vector<fs::path> all;
         grow(random, folder.path(), 4, all);
@@ -142,7 +142,7 @@ void makeChain(const std::string& path, int levels, int beside) {
 class DeepTree : public testing::TestWithParam<int> {};
 
 TEST_P(DeepTree, OfThreeThousandLevelsNeitherFailsNorRunsOutOfDescriptors) {
-    const test::TemporaryFolder folder;
+    const test::TemporaryFolder folder(test::TemporaryFolder::Storage::memory);
     makeChain(folder.path(), 3000, GetParam());
     rlimit before{};
     ASSERT_EQ(::getrlimit(RLIMIT_NOFILE, &before), 0);
@@ -174,7 +174,7 @@ TEST(OwnershipWalk, AnEntryOfAnotherUserAtTheBottomOfADeepTreeIsFound) {
 }
 
 TEST(OwnershipWalk, AHundredThousandFilesInOneFolderAreWalked) {
-    const test::TemporaryFolder folder;
+    const test::TemporaryFolder folder(test::TemporaryFolder::Storage::memory);
     const FileDescriptor top(::open(folder.path().c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC));
     for (int index = 0; index < 100'000; ++index) {
         ASSERT_EQ(::mknodat(top.get(), std::to_string(index).c_str(), S_IFREG | 0600, 0), 0);

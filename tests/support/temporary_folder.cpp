@@ -6,11 +6,23 @@
 #include <iostream>
 #include <system_error>
 
+#include <unistd.h>
+
 namespace kelmar::test {
 
-TemporaryFolder::TemporaryFolder() {
-    std::string pattern =
-        std::filesystem::canonical(std::filesystem::temp_directory_path()) / "kelmar-XXXXXX";
+namespace {
+
+std::filesystem::path parentIn(TemporaryFolder::Storage storage) {
+    constexpr const char* memory = "/dev/shm";
+    return storage == TemporaryFolder::Storage::memory && ::access(memory, W_OK) == 0
+               ? std::filesystem::path(memory)
+               : std::filesystem::temp_directory_path();
+}
+
+} // namespace
+
+TemporaryFolder::TemporaryFolder(Storage storage) {
+    std::string pattern = std::filesystem::canonical(parentIn(storage)) / "kelmar-XXXXXX";
     if (::mkdtemp(pattern.data()) == nullptr) {
         throw std::system_error(errno, std::generic_category(), pattern);
     }

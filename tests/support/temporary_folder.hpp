@@ -8,7 +8,11 @@ namespace kelmar::test {
 /// symlink.
 class TemporaryFolder {
 public:
-    TemporaryFolder();
+    /// `memory`, where the machine has tmpfs(5), suits many small files: a disk's file system needs
+    /// many times as long to make them, and some slow down after many were deleted.
+    enum class Storage { disk, memory };
+
+    explicit TemporaryFolder(Storage storage = Storage::disk);
     TemporaryFolder(const TemporaryFolder&) = delete;
     TemporaryFolder& operator=(const TemporaryFolder&) = delete;
     ~TemporaryFolder();

@@ -1,7 +1,7 @@
 #include "tests/window/window_fixture.hpp"
 
+#include "discovery/size_in_words.hpp"
 #include "system/mac_tools/disk_usage.hpp"
-#include "system/text/byte_count.hpp"
 #include "tests/accessibility/reading_order.hpp"
 #include "tests/support/desktop_session.hpp"
 
@@ -174,7 +174,7 @@ std::string Window::sizeOf(const Lines& folders) {
         du.arguments = {"-sk", folder};
         sum += DiskUsage::kibibytesIn(du.run().output).value_or(0) * 1024;
     }
-    return byteCountText(sum);
+    return sizeInWords(sum, "");
 }
 
 std::chrono::milliseconds Window::expectEnd() {
