@@ -50,7 +50,7 @@ install_packages() {
     build_packages=(g++ cmake ninja-build libplist-dev)
     window_packages=(qt6-base-dev qt6-svg-dev)
     script_packages=(zsh lsof) # what the administrator's script removes and looks with
-    test_packages=(libgtest-dev libseccomp-dev sudo procps passwd e2fsprogs "${script_packages[@]}")
+    test_packages=(libgtest-dev libseccomp-dev sudo procps e2fsprogs "${script_packages[@]}")
     window_test_packages=(xvfb at-spi2-core dbus-daemon libatspi2.0-dev libx11-dev libxtst-dev libsm-dev)
     clang_packages=(clang clang-tidy clang-format libclang-rt-dev)
     picture_packages=(fonts-inter fonts-noto-color-emoji)
