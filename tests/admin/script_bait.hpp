@@ -12,6 +12,8 @@ namespace kelmar::test {
 /// touched.
 class ScriptWithABait : public Script {
 protected:
+    using Script::Script;
+
     void SetUp() override {
         tree.file(bait + "/Kelmar/precious", "bait").file(bait + "/Store/precious", "bait");
         tree.file(bait + "/@Kelmar/Store/precious", "bait")
