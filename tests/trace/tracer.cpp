@@ -131,7 +131,11 @@ void Tracer::executed(pid_t process) {
         threads_.erase(former);
     }
     threads_.at(process).executable = executableOf(process);
-    executing_ = executing_ || process == program_;
+    if (process == program_ && !executing_) {
+        executing_ = true;
+        // A sanitizer starts a thread of its own in every child, before it was seized or after.
+        threads_.at(process).made = 0;
+    }
     resume(process);
 }
 
