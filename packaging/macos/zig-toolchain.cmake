@@ -19,7 +19,9 @@ file(GLOB zig "${root}/build/macos/compiler/node_modules/@zigc/linux-*/bin/zig")
 if(NOT zig)
   message(FATAL_ERROR "The compiler isn't there; scripts/build-macos fetches it.")
 endif()
-set(CMAKE_CXX_COMPILER "${zig}" c++ -target ${target})
+# "-s": no symbols, which also keeps paths of this machine out. It stands in every call, also in those that CMake makes
+# first: the compiler makes one C++ library for calls with it, another for calls without, a minute of work each.
+set(CMAKE_CXX_COMPILER "${zig}" c++ -target ${target} -s)
 set(CMAKE_OBJCXX_COMPILER ${CMAKE_CXX_COMPILER})
 
 # The archiver of Debian's package "llvm", which has some of its tools outside the path.
@@ -38,9 +40,8 @@ foreach(language CXX OBJCXX)
       "-fno-sanitize=undefined -ffile-prefix-map=${root}=. -isystem ${CMAKE_CURRENT_LIST_DIR}/declarations")
 endforeach()
 
-# "-s": no symbols, which also keeps paths of this machine out. The pad is room for the load command that a signer
-# adds; without it there is room only by accident.
-set(CMAKE_EXE_LINKER_FLAGS_INIT "-s -Wl,-dead_strip -Wl,-headerpad,0x1000")
+# The pad is room for the load command that a signer adds; without it there is room only by accident.
+set(CMAKE_EXE_LINKER_FLAGS_INIT "-Wl,-dead_strip -Wl,-headerpad,0x1000")
 
 set(CMAKE_FIND_ROOT_PATH_MODE_PROGRAM NEVER)
 set(CMAKE_FIND_ROOT_PATH_MODE_LIBRARY ONLY)
