@@ -9,14 +9,14 @@
 namespace kelmar {
 namespace {
 
-using Names = std::multiset<std::string>;
+using NameList = std::multiset<std::string>;
 
 /// What the views tell a screen reader. Whether it is read out is the Mac's affair.
 class Accessibility : public test::PageInAWindow {
 protected:
     /// The names that views have been given, of those that are to be seen.
-    [[nodiscard]] Names names() const {
-        Names all;
+    [[nodiscard]] NameList names() const {
+        NameList all;
         for (NSView* const view : test::seenViews(page)) {
             id const told = test::exposed(view);
             if ([told isAccessibilityElement] && [[told accessibilityLabel] length] > 0) {
@@ -27,9 +27,9 @@ protected:
     }
 
     /// Since the test began.
-    [[nodiscard]] Names announced() const {
+    [[nodiscard]] NameList announced() const {
         NSArray* const all = KelmarAnnouncements();
-        Names texts;
+        NameList texts;
         for (NSUInteger index = before_; index < [all count]; ++index) {
             texts.insert(plainText([all objectAtIndex:index]));
         }
@@ -192,7 +192,7 @@ TEST_F(Accessibility, ANewPhaseIsAnnouncedOnce) {
     later.header.subtitle = "Another minute.";
     render(later);
     EXPECT_NE(seen<NSTextField>("Another minute."), nil);
-    EXPECT_EQ(announced(), Names{test::workingPage().header.announcement()});
+    EXPECT_EQ(announced(), NameList{test::workingPage().header.announcement()});
     render(test::finishedPage());
     EXPECT_EQ(announced().count(test::finishedPage().header.announcement()), 1U);
     EXPECT_EQ(announced().size(), 2U);

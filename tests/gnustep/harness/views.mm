@@ -8,19 +8,21 @@ namespace kelmar::test {
 
 namespace {
 
-CGFloat middle(NSView* view) {
+CGFloat verticalMiddle(NSView* view) {
     return NSMidY(placeInWindow(view));
 }
 
 /// Sorts by lines: what stands at the same height, give or take a few points, is one.
 void sortForReading(std::vector<NSView*>& views) {
     constexpr CGFloat tolerance = 5;
-    std::stable_sort(views.begin(), views.end(),
-                     [](NSView* one, NSView* other) { return middle(one) < middle(other); });
+    std::stable_sort(views.begin(), views.end(), [](NSView* one, NSView* other) {
+        return verticalMiddle(one) < verticalMiddle(other);
+    });
     for (auto begin = views.begin(); begin != views.end();) {
-        const CGFloat line = middle(*begin);
-        const auto end = std::find_if(
-            begin, views.end(), [line](NSView* each) { return middle(each) > line + tolerance; });
+        const CGFloat line = verticalMiddle(*begin);
+        const auto end = std::find_if(begin, views.end(), [line](NSView* each) {
+            return verticalMiddle(each) > line + tolerance;
+        });
         std::stable_sort(begin, end, [](NSView* one, NSView* other) {
             return NSMinX(placeInWindow(one)) < NSMinX(placeInWindow(other));
         });
