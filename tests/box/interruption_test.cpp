@@ -106,7 +106,12 @@ TEST_F(InterruptionOnAPretendMac, ByCtrlCEndsTheAdministratorsPart) {
     box->tree().dataFolder(Scope::allUsers, "CDN", 1000).dataFolder(Scope::me, "Store", 10);
     box->chownToUser("/Users/ann");
     std::filesystem::remove(box->outside("/box/bin/uninstall-as-admin.sh"));
-    box->set("/box/bin/uninstall-as-admin.sh", "touch /box/tmp/ready\nexec sleep 100\n");
+    // Without the trap, bash goes on if Ctrl-C comes while "touch" ends as if there had been none.
+    box->set("/box/bin/uninstall-as-admin.sh", "trap 'trap - INT; kill -INT $$' INT\n"
+                                               "touch /box/tmp/ready\n"
+                                               "for ((each = 0; each < 1000; ++each)); do\n"
+                                               "    sleep 0.1\n"
+                                               "done\n");
     const ProgramEnd end = pressCtrlCWhenReady();
     EXPECT_FALSE(end.timedOut);
     EXPECT_EQ(end.status, 128 + SIGINT);
