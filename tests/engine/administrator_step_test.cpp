@@ -7,6 +7,7 @@
 
 #include <gtest/gtest.h>
 
+#include <cstdlib>
 #include <filesystem>
 #include <fstream>
 #include <memory>
@@ -224,10 +225,13 @@ using AdministratorStepDeath = AdministratorStep;
 
 TEST_F(AdministratorStepDeath, AFailLineWithoutAPathEndsTheProgram) {
     testing::GTEST_FLAG(death_test_style) = "threadsafe";
+    // The program that dies runs this test once more, and leaves its folder behind: in ours.
+    ::setenv("TMPDIR", tree.paths().temporaryDirectory.c_str(), 1);
     EXPECT_DEATH(run(test::writes("FAIL \t\nDONE\n")),
                  "^Kelmar Uninstaller: broken contract: the administrator's script wrote a FAIL "
                  "line without "
                  "a path\n$");
+    ::unsetenv("TMPDIR");
 }
 
 } // namespace
